@@ -1,0 +1,225 @@
+#include "core/Widgets.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "core/Icons.h"
+#include <QTextBlock>
+#include <QTextCursor>
+
+namespace ql {
+
+// ---- ClickLabel
+
+ClickLabel::ClickLabel(const QString& text, QWidget* parent)
+    : QLabel(text, parent)
+{
+}
+
+void ClickLabel::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        pressed_ = true;
+    else if (event->button() == Qt::RightButton)
+        emit rightClicked();
+    event->accept();
+}
+
+void ClickLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool wasPressed = pressed_;
+    pressed_ = false;
+    if (event->button() == Qt::LeftButton && wasPressed && rect().contains(event->position().toPoint()))
+        emit clicked();
+    event->accept();
+}
+
+void ClickLabel::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        emit doubleClicked();
+    event->accept();
+}
+
+// ---- ColorSwatch
+
+ColorSwatch::ColorSwatch(QWidget* parent)
+    : ClickLabel(QStringLiteral("Select"), parent)
+{
+    setToolTip(QStringLiteral("Click here to select a color"));
+    setAlignment(Qt::AlignCenter);
+    setFrameShape(QFrame::Panel);
+    setFrameShadow(QFrame::Sunken);
+    setCursor(Qt::PointingHandCursor);
+    setMinimumSize(56, 22);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void ColorSwatch::paintColor(quint32 color)
+{
+    const QColor c(int(color % 256), int((color / 256) % 256), int((color / 65536) % 256));
+    QPalette p = palette();
+    p.setColor(QPalette::Window, c);
+    setPalette(p);
+    setAutoFillBackground(true);
+    setText(QString());
+}
+
+// ---- CodeBox
+
+CodeBox::CodeBox(QWidget* parent)
+    : QPlainTextEdit(parent)
+{
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setTabChangesFocus(true);
+}
+
+QString CodeBox::text() const
+{
+    QString inner = toPlainText();
+    return inner.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+}
+
+void CodeBox::setText(const QString& text)
+{
+    QString inner = text;
+    inner.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    inner.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    setPlainText(inner);
+}
+
+int CodeBox::toCrlf(int innerPosition) const
+{
+    const QString inner = toPlainText();
+    return innerPosition + int(inner.left(innerPosition).count(QLatin1Char('\n')));
+}
+
+int CodeBox::toInner(int crlfPosition) const
+{
+    const QString inner = toPlainText();
+    int crlf = 0;
+    int i = 0;
+    for (; i < inner.size() && crlf < crlfPosition; ++i)
+        crlf += inner[i] == QLatin1Char('\n') ? 2 : 1;
+    return i;
+}
+
+int CodeBox::selectionStart() const
+{
+    return toCrlf(textCursor().selectionStart());
+}
+
+int CodeBox::selectionLength() const
+{
+    const QTextCursor c = textCursor();
+    return toCrlf(c.selectionEnd()) - toCrlf(c.selectionStart());
+}
+
+QString CodeBox::selectedText() const
+{
+    return text().mid(selectionStart(), selectionLength());
+}
+
+void CodeBox::setSelection(int start, int length)
+{
+    const int size = int(text().size());
+    start = qBound(0, start, size);
+    length = qBound(0, length, size - start);
+    QTextCursor c = textCursor();
+    c.setPosition(toInner(start));
+    c.setPosition(toInner(start + length), QTextCursor::KeepAnchor);
+    setTextCursor(c);
+}
+
+void CodeBox::replaceSelection(const QString& replacement)
+{
+    QString inner = replacement;
+    inner.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    inner.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    textCursor().insertText(inner);
+}
+
+void CodeBox::selectAllText()
+{
+    selectAll();
+}
+
+// ---- PageStack
+
+namespace {
+const char* const OwnVisible = "qlOwnVisible";
+}
+
+PageStack::PageStack(QWidget* parent)
+    : QStackedWidget(parent)
+{
+}
+
+int PageStack::addPage(QWidget* page)
+{
+    page->setProperty(OwnVisible, true);
+    return addWidget(page);
+}
+
+void PageStack::bringToFront(QWidget* page)
+{
+    setCurrentWidget(page);
+}
+
+void PageStack::bringToFront(int index)
+{
+    setCurrentIndex(index);
+}
+
+QPushButton* commandButton(QWidget* parent, const QString& name, const QString& caption)
+{
+    auto* button = named(new QPushButton(caption, parent), name);
+    button->setAutoDefault(false);
+    button->setMinimumWidth(88);
+    return button;
+}
+
+QToolButton* helpButton(QWidget* parent, const QString& name)
+{
+    auto* button = named(new QToolButton(parent), name);
+    button->setIcon(helpIcon());
+    button->setIconSize(QSize(20, 20));
+    button->setToolTip(QStringLiteral("Click here for help"));
+    return button;
+}
+
+QString fieldText(const QWidget* field)
+{
+    if (const auto* line = qobject_cast<const QLineEdit*>(field))
+        return line->text();
+    if (const auto* code = qobject_cast<const CodeBox*>(field))
+        return code->text();
+    if (const auto* combo = qobject_cast<const QComboBox*>(field))
+        return combo->currentText();
+    return QString();
+}
+
+void setFieldText(QWidget* field, const QString& text)
+{
+    if (auto* line = qobject_cast<QLineEdit*>(field))
+        line->setText(text);
+    else if (auto* code = qobject_cast<CodeBox*>(field))
+        code->setText(text);
+    else if (auto* combo = qobject_cast<QComboBox*>(field))
+        combo->setEditText(text);
+}
+
+bool ownVisibleFlag(const QWidget* widget)
+{
+    const QVariant recorded = widget->property(OwnVisible);
+    if (recorded.isValid())
+        return recorded.toBool();
+    if (widget->isWindow())
+        return widget->isVisible();
+    return !(widget->testAttribute(Qt::WA_WState_ExplicitShowHide) && widget->testAttribute(Qt::WA_WState_Hidden));
+}
+
+}  // namespace ql

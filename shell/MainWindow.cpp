@@ -1,0 +1,243 @@
+#include "shell/MainWindow.h"
+
+#include "core/App.h"
+#include "core/Icons.h"
+#include "core/Widgets.h"
+#include "shell/Catalogue.h"
+#include "shell/EffectPictures.h"
+
+#include <QCloseEvent>
+#include <QEnterEvent>
+#include <QMouseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QTabBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace ql {
+
+namespace {
+
+const char* const Title = "qlTitle";
+const char* const Description = "qlDescription";
+
+}  // namespace
+
+MainWindow::MainWindow(App& app)
+    : QMainWindow(nullptr)
+    , FormBase(app, QStringLiteral("QLMain"))
+{
+    setObjectName(QStringLiteral("QLMain"));
+    setWindowTitle(QStringLiteral("Quillet"));
+    setWindowIcon(programIcon());
+    // The main window's help is the table of contents.
+    helpTopic = 0;
+
+    buildMenus();
+
+    auto* central = new QWidget(this);
+    central->setMouseTracking(true);
+    central->installEventFilter(this);
+    setCentralWidget(central);
+
+    TabStrip1 = named(new QTabBar(central), "TabStrip1");
+    TabStrip1->setExpanding(false);
+    TabStrip1->setDrawBase(false);
+    pages_ = new PageStack(central);
+    pages_->setFrameShape(QFrame::StyledPanel);
+    const QList<CataloguePage>& pageTable = cataloguePages();
+    for (int i = 0; i < pageTable.size(); ++i) {
+        TabStrip1->addTab(pageTable[i].caption);
+        TabStrip1->setTabToolTip(i, pageTable[i].toolTip);
+        pages_->addPage(buildPage(i));
+    }
+    connect(TabStrip1, &QTabBar::currentChanged, this, [this](int index) {
+        if (index >= 0)
+            pages_->bringToFront(index);
+    });
+
+    auto* frame1 = named(new QGroupBox(QStringLiteral("Description"), central), "Frame1");
+    frame1->setFixedWidth(240);
+    Label3 = named(new QLabel(frame1), "Label3");
+    QFont titleFont = Label3->font();
+    titleFont.setBold(true);
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.15);
+    Label3->setFont(titleFont);
+    Label3->setWordWrap(true);
+    Label2 = named(new QLabel(frame1), "Label2");
+    Label2->setWordWrap(true);
+    Label2->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    auto* describeLayout = new QVBoxLayout(frame1);
+    describeLayout->addWidget(Label3);
+    describeLayout->addSpacing(6);
+    describeLayout->addWidget(Label2, 1);
+
+    auto* catalogueColumn = new QVBoxLayout;
+    catalogueColumn->setSpacing(0);
+    catalogueColumn->addWidget(TabStrip1);
+    catalogueColumn->addWidget(pages_, 1);
+
+    auto* layout = new QHBoxLayout(central);
+    layout->setContentsMargins(10, 10, 10, 10);
+    layout->setSpacing(10);
+    layout->addLayout(catalogueColumn, 1);
+    layout->addWidget(frame1);
+
+    installEventFilter(this);
+}
+
+void MainWindow::buildMenus()
+{
+    auto addEntry = [this](QMenu* menu, const QString& name, const QString& caption) {
+        QAction* action = menu->addAction(caption);
+        action->setObjectName(name);
+        return action;
+    };
+    auto addMenu = [](QWidget* parent, const QString& name, const QString& caption) {
+        auto* menu = new QMenu(caption, parent);
+        menu->setObjectName(name);
+        return menu;
+    };
+
+    QMenu* file = addMenu(this, "mnuFile", "&File");
+    connect(addEntry(file, "mnuFileExit", "E&xit"), &QAction::triggered, this, [this] { app().end(); });
+
+    QMenu* edit = addMenu(this, "mnuEdit", "&Edit");
+    connect(addEntry(edit, "mnuEditApplet", "Edit Applet..."), &QAction::triggered, this,
+            [this] { app().forms().show(QStringLiteral("EditAppletForm"), true); });
+
+    QMenu* special = addMenu(this, "mnuSpecialEffects", "&Special Effects");
+    for (const EffectSubmenu& submenu : effectMenu()) {
+        QMenu* sub = addMenu(special, submenu.control, submenu.caption);
+        special->addMenu(sub);
+        for (const EffectMenuEntry& entry : submenu.entries) {
+            const QString form = entry.form;
+            const bool unloadFirst = entry.unloadFirst;
+            connect(addEntry(sub, entry.control, entry.caption), &QAction::triggered, this,
+                    [this, form, unloadFirst] { openEffect(form, unloadFirst); });
+        }
+    }
+
+    QMenu* view = addMenu(this, "mnuView", "&View");
+    connect(addEntry(view, "mnuPreferences", "&Preferences..."), &QAction::triggered, this,
+            [this] { app().forms().show(QStringLiteral("Options"), true); });
+
+    QMenu* help = addMenu(this, "mnuHelp", "&Help");
+    connect(addEntry(help, "mnuHelpContents", "&Contents..."), &QAction::triggered, this, [this] { sendHelp(); });
+    connect(addEntry(help, "mnuHelpAbout", "&About..."), &QAction::triggered, this,
+            [this] { app().forms().show(QStringLiteral("About"), true); });
+
+    for (QMenu* menu : {file, edit, special, view, help})
+        menuBar()->addMenu(menu);
+}
+
+QWidget* MainWindow::buildPage(int page)
+{
+    auto* container = named(new QWidget, arrayName("Picture1", page));
+    container->setMouseTracking(true);
+    container->installEventFilter(this);
+    auto* grid = new QGridLayout(container);
+    grid->setContentsMargins(14, 14, 14, 14);
+    grid->setSpacing(10);
+    const qreal dpr = devicePixelRatioF();
+    int slot = 0;
+    for (const CatalogueEntry& entry : catalogue()) {
+        if (entry.page != page)
+            continue;
+        auto* button = named(new QToolButton(container), entry.button);
+        const QPixmap picture = effectPicture(entry.form, entry.title, QSize(132, 96), dpr);
+        button->setIcon(QIcon(picture));
+        button->setIconSize(QSize(132, 96));
+        button->setAutoRaise(true);
+        button->setAccessibleName(entry.title);
+        button->setAccessibleDescription(entry.description);
+        button->setProperty(Title, entry.title);
+        button->setProperty(Description, entry.description);
+        button->installEventFilter(this);
+        const QString form = entry.form;
+        connect(button, &QToolButton::clicked, this, [this, form] { openEffect(form, true); });
+        grid->addWidget(button, slot / 3, slot % 3, Qt::AlignCenter);
+        ++slot;
+    }
+    grid->setRowStretch(3, 1);
+    grid->setColumnStretch(3, 1);
+    return container;
+}
+
+void MainWindow::load()
+{
+    TabStrip1->setCurrentIndex(0);
+    pages_->bringToFront(0);
+    adjustSize();
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+        const QRect area = screen->availableGeometry();
+        move(area.center() - QPoint(width() / 2, height() / 2));
+    }
+}
+
+QToolButton* MainWindow::effectButton(const QString& name) const
+{
+    return findChild<QToolButton*>(name);
+}
+
+void MainWindow::describe(const QString& title, const QString& description)
+{
+    Label3->setText(title);
+    Label2->setText(description);
+}
+
+void MainWindow::openEffect(const QString& form, bool unloadFirst)
+{
+    if (unloadFirst)
+        app().forms().reopen(form, true);
+    else
+        app().forms().show(form, true);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (type != QEvent::Enter && type != QEvent::MouseMove && type != QEvent::HoverMove)
+        return QMainWindow::eventFilter(watched, event);
+    // The effect button under the mouse, if any: a move over a button can
+    // reach its page too.
+    QObject* over = watched;
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget && !watched->property(Title).isValid()) {
+        QPointF position;
+        if (type == QEvent::Enter)
+            position = static_cast<QEnterEvent*>(event)->position();
+        else if (type == QEvent::MouseMove)
+            position = static_cast<QMouseEvent*>(event)->position();
+        else
+            position = static_cast<QHoverEvent*>(event)->position();
+        for (QWidget* child = widget->childAt(position.toPoint()); child && child != widget;
+             child = child->parentWidget()) {
+            if (child->property(Title).isValid()) {
+                over = child;
+                break;
+            }
+        }
+    }
+    const QVariant title = over->property(Title);
+    if (title.isValid())
+        describe(title.toString(), over->property(Description).toString());
+    else
+        describe(QString(), QString());
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    app().end();
+}
+
+}  // namespace ql
