@@ -3,6 +3,7 @@
 #include "core/App.h"
 #include "core/Form.h"
 
+#include <QGuiApplication>
 #include <QWidget>
 
 namespace ql {
@@ -114,8 +115,11 @@ void FormRegistry::show(const QString& name, bool modal)
         w->setWindowModality(wanted);
     }
     w->show();
-    w->raise();
-    w->activateWindow();
+    // A headless screen has no stacking of windows to change.
+    if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
+        w->raise();
+        w->activateWindow();
+    }
 }
 
 void FormRegistry::reopen(const QString& name, bool modal)

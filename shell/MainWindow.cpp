@@ -160,6 +160,7 @@ QWidget* MainWindow::buildPage(int page)
         button->setAccessibleDescription(entry.description);
         button->setProperty(Title, entry.title);
         button->setProperty(Description, entry.description);
+        button->setMouseTracking(true);
         button->installEventFilter(this);
         const QString form = entry.form;
         connect(button, &QToolButton::clicked, this, [this, form] { openEffect(form, true); });
@@ -204,7 +205,7 @@ void MainWindow::openEffect(const QString& form, bool unloadFirst)
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
-    if (type != QEvent::Enter && type != QEvent::MouseMove && type != QEvent::HoverMove)
+    if (type != QEvent::Enter && type != QEvent::MouseMove)
         return QMainWindow::eventFilter(watched, event);
     // The effect button under the mouse, if any: a move over a button can
     // reach its page too.
@@ -214,10 +215,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         QPointF position;
         if (type == QEvent::Enter)
             position = static_cast<QEnterEvent*>(event)->position();
-        else if (type == QEvent::MouseMove)
-            position = static_cast<QMouseEvent*>(event)->position();
         else
-            position = static_cast<QHoverEvent*>(event)->position();
+            position = static_cast<QMouseEvent*>(event)->position();
         for (QWidget* child = widget->childAt(position.toPoint()); child && child != widget;
              child = child->parentWidget()) {
             if (child->property(Title).isValid()) {
@@ -231,6 +230,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         describe(title.toString(), over->property(Description).toString());
     else
         describe(QString(), QString());
+    // A move over a button ends there: its page must not take it as a move
+    // over the empty page.
+    if (over == watched && title.isValid() && type == QEvent::MouseMove &&
+        static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton)
+        return true;
     return QMainWindow::eventFilter(watched, event);
 }
 
