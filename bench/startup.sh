@@ -94,6 +94,7 @@ cmake --build "$MINIMAL_BUILD" >/dev/null
 WORK_DIR="$(mktemp -d /tmp/quillet-bench.XXXXXX)"
 XVFB_PID=""
 PROBE_PID=""
+# shellcheck disable=SC2317  # invoked through the EXIT trap
 cleanup() {
     local status=$?
     trap - EXIT INT TERM HUP

@@ -67,7 +67,7 @@ QIcon helpIcon()
 QIcon programIcon()
 {
     QIcon icon;
-    for (int size : {16, 24, 32, 48, 64, 128})
+    for (int size : {16, 32, 48, 128})
         icon.addPixmap(programPixmap(size));
     return icon;
 }

@@ -27,6 +27,8 @@ namespace {
 
 const char* const Title = "qlTitle";
 const char* const Description = "qlDescription";
+const char* const FormName = "qlForm";
+const QSize PictureSize(132, 96);
 
 }  // namespace
 
@@ -36,7 +38,6 @@ MainWindow::MainWindow(App& app)
 {
     setObjectName(QStringLiteral("QLMain"));
     setWindowTitle(QStringLiteral("Quillet"));
-    setWindowIcon(programIcon());
     // The main window's help is the table of contents.
     helpTopic = 0;
 
@@ -62,6 +63,9 @@ MainWindow::MainWindow(App& app)
         if (index >= 0)
             pages_->bringToFront(index);
     });
+    // The pictures of a page are drawn when the page first comes to the
+    // front, so that the window opens without waiting for the others.
+    connect(pages_, &QStackedWidget::currentChanged, this, [this](int index) { paintPictures(index); });
 
     auto* frame1 = named(new QGroupBox(QStringLiteral("Description"), central), "Frame1");
     frame1->setFixedWidth(240);
@@ -146,20 +150,19 @@ QWidget* MainWindow::buildPage(int page)
     auto* grid = new QGridLayout(container);
     grid->setContentsMargins(14, 14, 14, 14);
     grid->setSpacing(10);
-    const qreal dpr = devicePixelRatioF();
     int slot = 0;
     for (const CatalogueEntry& entry : catalogue()) {
         if (entry.page != page)
             continue;
         auto* button = named(new QToolButton(container), entry.button);
-        const QPixmap picture = effectPicture(entry.form, entry.title, QSize(132, 96), dpr);
-        button->setIcon(QIcon(picture));
-        button->setIconSize(QSize(132, 96));
+        button->setIconSize(PictureSize);
+        button->setMinimumSize(PictureSize + QSize(8, 8));
         button->setAutoRaise(true);
         button->setAccessibleName(entry.title);
         button->setAccessibleDescription(entry.description);
         button->setProperty(Title, entry.title);
         button->setProperty(Description, entry.description);
+        button->setProperty(FormName, entry.form);
         button->setMouseTracking(true);
         button->installEventFilter(this);
         const QString form = entry.form;
@@ -172,10 +175,25 @@ QWidget* MainWindow::buildPage(int page)
     return container;
 }
 
+void MainWindow::paintPictures(int page)
+{
+    QWidget* container = pages_->widget(page);
+    if (!container || container->property("qlPainted").toBool())
+        return;
+    container->setProperty("qlPainted", true);
+    const qreal dpr = devicePixelRatioF();
+    for (QToolButton* button : container->findChildren<QToolButton*>()) {
+        const QVariant form = button->property(FormName);
+        if (form.isValid())
+            button->setIcon(QIcon(effectPicture(form.toString(), button->property(Title).toString(), PictureSize, dpr)));
+    }
+}
+
 void MainWindow::load()
 {
     TabStrip1->setCurrentIndex(0);
     pages_->bringToFront(0);
+    paintPictures(0);
     adjustSize();
     if (const QScreen* screen = QGuiApplication::primaryScreen()) {
         const QRect area = screen->availableGeometry();

@@ -31,6 +31,7 @@ protected:
 private:
     void buildMenus();
     QWidget* buildPage(int page);
+    void paintPictures(int page);
     void describe(const QString& title, const QString& description);
     void openEffect(const QString& form, bool unloadFirst);
 

@@ -50,6 +50,7 @@ private slots:
         for (const CatalogueEntry& entry : catalogue()) {
             auto* button = d.app().mainWidget()->findChild<QToolButton*>(entry.button);
             QVERIFY2(button, qPrintable(entry.button));
+            d.on("QLMain", "TabStrip1", "choose", {{"item", entry.page}});
             QVERIFY(!button->icon().isNull());
             QCOMPARE(button->text(), QString());
             QCOMPARE(d.on("QLMain", entry.button, "hover"), QJsonValue::Undefined);
