@@ -30,6 +30,7 @@
 #include <QTabBar>
 #include <QTextEdit>
 #include <algorithm>
+#include <optional>
 
 namespace ql {
 
@@ -211,6 +212,22 @@ QStringList tabEntries(const QTabBar* tabs)
     return out;
 }
 
+// The entries of a list-like control, as "items" reports them.
+std::optional<QStringList> itemsOf(QObject* control)
+{
+    if (auto* paths = dynamic_cast<PathListControl*>(control))
+        return paths->entries();
+    if (auto* drives = dynamic_cast<DriveListControl*>(control))
+        return drives->entries();
+    if (auto* list = qobject_cast<QListWidget*>(control))
+        return listEntries(list);
+    if (auto* combo = qobject_cast<QComboBox*>(control))
+        return comboEntries(combo);
+    if (auto* tabs = qobject_cast<QTabBar*>(control))
+        return tabEntries(tabs);
+    return std::nullopt;
+}
+
 QJsonArray toArray(const QStringList& list)
 {
     QJsonArray out;
@@ -354,7 +371,7 @@ void doubleClick(QObject* control)
 void choose(QObject* control, const QJsonValue& item)
 {
     if (auto* list = qobject_cast<QListWidget*>(control)) {
-        const int row = rowOf(item, listEntries(list));
+        const int row = rowOf(item, *itemsOf(control));
         if (row == -1) {
             list->clearSelection();
             list->setCurrentRow(-1);
@@ -372,7 +389,7 @@ void choose(QObject* control, const QJsonValue& item)
         return;
     }
     if (auto* combo = qobject_cast<QComboBox*>(control)) {
-        const int row = rowOf(item, comboEntries(combo));
+        const int row = rowOf(item, *itemsOf(control));
         if (row < -1 || row >= combo->count())
             throw DriverError{"LookupError", QStringLiteral("no item %1").arg(row)};
         combo->setCurrentIndex(row);
@@ -387,14 +404,6 @@ void choose(QObject* control, const QJsonValue& item)
         emit tabs->tabBarClicked(row);
         tabs->setCurrentIndex(row);
         return;
-    }
-    if (auto* paths = dynamic_cast<PathListControl*>(control)) {
-        const int row = rowOf(item, paths->entries());
-        if (auto* list = qobject_cast<QListWidget*>(control)) {
-            list->setCurrentRow(row);
-            return;
-        }
-        notFor("choose", control);
     }
     notFor("choose", control);
 }
@@ -549,16 +558,8 @@ QJsonValue controlOp(FormBase& form, QObject* control, const QString& op, const 
         return QJsonValue::Undefined;
     }
     if (op == "items") {
-        if (auto* list = qobject_cast<QListWidget*>(control))
-            return toArray(listEntries(list));
-        if (auto* combo = qobject_cast<QComboBox*>(control))
-            return toArray(comboEntries(combo));
-        if (auto* tabs = qobject_cast<QTabBar*>(control))
-            return toArray(tabEntries(tabs));
-        if (auto* paths = dynamic_cast<PathListControl*>(control))
-            return toArray(paths->entries());
-        if (auto* drives = dynamic_cast<DriveListControl*>(control))
-            return toArray(drives->entries());
+        if (const std::optional<QStringList> items = itemsOf(control))
+            return toArray(*items);
         notFor(op, control);
     }
     if (op == "selected") {

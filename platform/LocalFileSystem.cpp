@@ -55,6 +55,10 @@ int LocalFileSystem::copyFile(const QString& source, const QString& target)
     const QFileInfo sourceInfo(source);
     if (source.isEmpty() || sourceInfo.isDir() || !in.open(QIODevice::ReadOnly))
         return source.isEmpty() ? FileError::FileNotFound : errorForOpen(sourceInfo);
+    // A file cannot be copied onto itself: it is in use as the source.
+    const QFileInfo targetInfo(target);
+    if (targetInfo.exists() && targetInfo.canonicalFilePath() == sourceInfo.canonicalFilePath())
+        return FileError::PermissionDenied;
     const QByteArray bytes = in.readAll();
     if (in.error() != QFileDevice::NoError)
         return FileError::DeviceIO;
@@ -116,6 +120,14 @@ QStringList LocalFileSystem::drives()
     }
     roots.sort();
     return roots;
+}
+
+int LocalFileSystem::enterDrive(const QString& drive)
+{
+    const QFileInfo info(drive);
+    if (!info.isDir())
+        return FileError::DiskNotReady;
+    return info.isReadable() ? FileError::None : FileError::PermissionDenied;
 }
 
 }  // namespace ql

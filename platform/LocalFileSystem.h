@@ -17,6 +17,7 @@ public:
     QStringList fileNames(const QString& folder) override;
     QStringList subfolderNames(const QString& folder) override;
     QStringList drives() override;
+    int enterDrive(const QString& drive) override;
 };
 
 }  // namespace ql

@@ -77,6 +77,8 @@ public:
     virtual QStringList subfolderNames(const QString& folder) = 0;
     // The mounted volumes, as their root paths.
     virtual QStringList drives() = 0;
+    // Whether a drive can be entered: a FileError number, 0 when it can.
+    virtual int enterDrive(const QString& drive) = 0;
 };
 
 // What the program asks of the outside world. The real implementation talks

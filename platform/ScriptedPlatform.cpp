@@ -61,9 +61,11 @@ void ScriptedFileSystem::setDriveFault(const QString& drive, int error)
     driveFaults_.insert(drive, error);
 }
 
-int ScriptedFileSystem::driveFault(const QString& drive) const
+int ScriptedFileSystem::enterDrive(const QString& drive)
 {
-    return driveFaults_.value(drive, FileError::None);
+    if (const int e = driveFaults_.value(drive, FileError::None))
+        return e;
+    return LocalFileSystem::enterDrive(drive);
 }
 
 int ScriptedFileSystem::fault(const QString& path, Op op) const

@@ -19,13 +19,13 @@ public:
     void clearFaults();
     // Drives that refuse to be entered, with their error number.
     void setDriveFault(const QString& drive, int error);
-    int driveFault(const QString& drive) const;
 
     bool canOpenForReading(const QString& path) override;
     int copyFile(const QString& source, const QString& target) override;
     int writeFile(const QString& path, const QByteArray& bytes) override;
     std::optional<QByteArray> readFile(const QString& path) override;
     int makeDir(const QString& path) override;
+    int enterDrive(const QString& drive) override;
 
 private:
     int fault(const QString& path, Op op) const;
