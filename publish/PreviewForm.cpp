@@ -82,6 +82,8 @@ PreviewForm::PreviewForm(App& app)
         Label4 << label;
         stepsLayout->addWidget(label);
     }
+    // The upload page is not a step the wizard walks through.
+    Label4[3]->setEnabled(false);
     stepsLayout->addStretch();
     steps->setFixedWidth(170);
 
@@ -91,13 +93,7 @@ PreviewForm::PreviewForm(App& app)
         built[i]->setObjectName(arrayName("Picture1", i));
         pages_->addPage(built[i]);
     }
-    connect(pages_, &QStackedWidget::currentChanged, this, [this](int index) {
-        for (int i = 0; i < Label4.size(); ++i) {
-            QFont f = Label4[i]->font();
-            f.setBold(i == index);
-            Label4[i]->setFont(f);
-        }
-    });
+    connect(pages_, &QStackedWidget::currentChanged, this, [this](int index) { markStep(index); });
 
     Label3 = named(new QLabel(this), "Label3");
     Command14 = commandButton(this, "Command14", QStringLiteral("<< &Previous"));
@@ -460,6 +456,16 @@ void PreviewForm::showTargetFolder(const QString& path)
 void PreviewForm::toFront(int page)
 {
     pages_->bringToFront(page);
+    markStep(page);
+}
+
+void PreviewForm::markStep(int page)
+{
+    for (int i = 0; i < Label4.size(); ++i) {
+        QFont f = Label4[i]->font();
+        f.setBold(i == page);
+        Label4[i]->setFont(f);
+    }
 }
 
 void PreviewForm::setNavigationShown(bool shown)

@@ -58,6 +58,8 @@ private:
     void next();
     void previous();
     void toFront(int page);
+    // Marks the step of the page in front in the list of steps.
+    void markStep(int page);
     void step2Layout();
     void step3DefaultLayout();
     void failedCopyLayout();

@@ -19,7 +19,7 @@ namespace {
 QLineEdit* numberBox(QWidget* parent, const QString& name)
 {
     auto* box = named(new QLineEdit(parent), name);
-    box->setMaximumWidth(80);
+    box->setFixedWidth(80);
     return box;
 }
 
@@ -51,8 +51,9 @@ SwirlyForm::SwirlyForm(App& app)
     // Applet properties.
     auto* frame1 = named(new QGroupBox(QStringLiteral("Applet Properties"), this), "Frame1");
     Combo1 = openCombo(frame1, "Combo1");
+    Combo1->setMinimumWidth(160);
     Combo9 = openCombo(frame1, "Combo9");
-    Combo9->setMaximumWidth(80);
+    Combo9->setFixedWidth(80);
     Text1 = named(new QLineEdit(frame1), "Text1");
     Text1->setMaximumWidth(110);
     Label5 = named(new ColorSwatch(frame1), "Label5");
@@ -72,10 +73,11 @@ SwirlyForm::SwirlyForm(App& app)
     colorRow->addStretch();
     grid->addLayout(colorRow, 1, 1, 1, 3);
     grid->addWidget(named(new QLabel(QStringLiteral("Width (pixels):"), frame1), "Label7"), 2, 0);
-    grid->addWidget(Text10, 2, 1);
+    grid->addWidget(Text10, 2, 1, Qt::AlignLeft);
     grid->addWidget(named(new QLabel(QStringLiteral("Height (pixels):"), frame1), "Label8"), 2, 2);
     grid->addWidget(Text11, 2, 3);
     grid->setColumnStretch(1, 1);
+    grid->setColumnMinimumWidth(2, 110);
 
     // Text location.
     auto* frame2 = named(new QGroupBox(QStringLiteral("Text Location"), this), "Frame2");
