@@ -51,14 +51,8 @@ QStringList DriveListBox::entries() const
 
 void DriveListBox::setDrive(const QString& drive)
 {
-    int index = findText(drive);
-    if (index < 0) {
-        addItem(drive);
-        index = count() - 1;
-    }
     previous_ = drive_;
-    drive_ = drive;
-    setCurrentIndex(index);
+    showDrive(drive);
     if (drive != previous_)
         emit driveChanged(drive);
 }
@@ -75,6 +69,17 @@ void DriveListBox::showDriveOf(const QString& path)
         return;
     drive_ = best;
     setCurrentIndex(findText(best));
+}
+
+void DriveListBox::showDrive(const QString& drive)
+{
+    int index = findText(drive);
+    if (index < 0) {
+        addItem(drive);
+        index = count() - 1;
+    }
+    drive_ = drive;
+    setCurrentIndex(index);
 }
 
 void DriveListBox::revert()

@@ -21,6 +21,8 @@ public:
     QStringList entries() const override;
     // Shows the drive that holds a path, without running the handler.
     void showDriveOf(const QString& path);
+    // Shows a drive as it is named, without running the handler.
+    void showDrive(const QString& drive);
     void revert();
 
 signals:

@@ -56,7 +56,10 @@ MakeDirForm::MakeDirForm(App& app)
 void MakeDirForm::load()
 {
     if (auto* preview = dynamic_cast<PreviewForm*>(app().forms().find(QStringLiteral("Preview")))) {
-        Drive1->showDriveOf(preview->targetFolder());
+        // The drive as the wizard's drive list shows it, which need not be
+        // the drive of its folder.
+        if (!preview->targetDrive().isEmpty())
+            Drive1->showDrive(preview->targetDrive());
         Dir1->setPath(preview->targetFolder());
     }
 }

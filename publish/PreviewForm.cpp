@@ -552,7 +552,8 @@ void PreviewForm::step2Layout()
 void PreviewForm::step3DefaultLayout()
 {
     Label14->setText(Step3Title);
-    for (QWidget* w : std::initializer_list<QWidget*>{Drive1, Dir1, Command6, Command1, Label2, Label5, Label6})
+    // The target's files come back too, after a failed copy for the preview.
+    for (QWidget* w : std::initializer_list<QWidget*>{Drive1, Dir1, File1, Command6, Command1, Label2, Label5, Label6})
         w->show();
     for (QWidget* w : std::initializer_list<QWidget*>{List1, Drive2, Dir2, File2, Command7, Command8, Command9,
                                                       Command10, Label7, Label10, Line1, Line2})

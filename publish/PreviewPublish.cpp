@@ -113,7 +113,6 @@ void PreviewForm::manualCopyForPreview()
 void PreviewForm::clickToPreview()
 {
     step3DefaultLayout();
-    File1->show();
     setNavigationShown(true);
     toFront(0);
     ShowPreviewPage(app(), Text1->text(), this, Text1);
