@@ -54,10 +54,10 @@ def now_ns():
 
 
 class Program:
-    def __init__(self, spec):
-        parts = spec.split("=", 2)
+    def __init__(self, text):
+        parts = text.split("=", 2)
         if len(parts) != 3 or not all(parts):
-            raise argparse.ArgumentTypeError(f"expected NAME=PATH=TITLE, got {spec!r}")
+            raise argparse.ArgumentTypeError(f"expected NAME=PATH=TITLE, got {text!r}")
         self.name, self.path, self.title = parts
         if not os.access(self.path, os.X_OK):
             raise argparse.ArgumentTypeError(f"not an executable: {self.path}")
