@@ -36,7 +36,8 @@ bool CommonDialog::ShowSave() { return showFile(true); }
 
 bool CommonDialog::ShowColor()
 {
-    const std::optional<quint32> chosen = platform_.colorDialog(DialogTitle);
+    // The colour dialog has no title of its own.
+    const std::optional<quint32> chosen = platform_.colorDialog(QString());
     if (!chosen)
         return false;
     Color = *chosen;

@@ -237,6 +237,7 @@ private slots:
         const QJsonArray dialogs = d.ok({{"op", "dialogs"}}).toArray();
         QCOMPARE(dialogs.size(), 1);
         QCOMPARE(dialogs[0].toObject().value("kind").toString(), QString("color"));
+        QCOMPARE(dialogs[0].toObject().value("title").toString(), QString(""));
     }
 };
 
