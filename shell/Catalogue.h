@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QSize>
 #include <QString>
 
 namespace ql {
@@ -20,6 +21,9 @@ struct CataloguePage {
 };
 
 const QList<CataloguePage>& cataloguePages();
+
+// The size of a button's picture.
+inline const QSize CataloguePictureSize(132, 96);
 // The buttons in their order on the pages.
 const QList<CatalogueEntry>& catalogue();
 

@@ -5,6 +5,7 @@
 #include "core/Widgets.h"
 #include "shell/Catalogue.h"
 #include "shell/EffectPictures.h"
+#include "shell/RenderedPictures.h"
 
 #include <QCloseEvent>
 #include <QEnterEvent>
@@ -28,7 +29,23 @@ namespace {
 const char* const Title = "qlTitle";
 const char* const Description = "qlDescription";
 const char* const FormName = "qlForm";
-const QSize PictureSize(132, 96);
+const QSize PictureSize = CataloguePictureSize;
+
+// The picture of a catalogue button: the one drawn at build time for the
+// screen's pixel ratio where there is one, else drawn now.
+QPixmap pictureOf(const QString& form, const QString& title, qreal ratio)
+{
+    for (const RenderedPicture& rendered : renderedPictures()) {
+        if (form == QLatin1String(rendered.form) && qFuzzyCompare(ratio, qreal(rendered.ratio))) {
+            QPixmap picture;
+            if (picture.loadFromData(rendered.data, uint(rendered.size), "PNG")) {
+                picture.setDevicePixelRatio(ratio);
+                return picture;
+            }
+        }
+    }
+    return effectPicture(form, title, PictureSize, ratio);
+}
 
 }  // namespace
 
@@ -185,7 +202,7 @@ void MainWindow::paintPictures(int page)
     for (QToolButton* button : container->findChildren<QToolButton*>()) {
         const QVariant form = button->property(FormName);
         if (form.isValid())
-            button->setIcon(QIcon(effectPicture(form.toString(), button->property(Title).toString(), PictureSize, dpr)));
+            button->setIcon(QIcon(pictureOf(form.toString(), button->property(Title).toString(), dpr)));
     }
 }
 
