@@ -172,8 +172,13 @@ bool QtPlatform::startProgram(const QString& command)
 
 void QtPlatform::showHelp(const QString& helpFile, const QString& form, std::optional<int> topic)
 {
+    // Under a modal form the help must belong to that form, or the form
+    // would block it.
+    QWidget* owner = QApplication::activeModalWidget();
     if (!help_)
         help_ = new HelpViewer();
+    if (help_->parentWidget() != owner)
+        help_->setParent(owner, Qt::Window);
     help_->showTopic(helpFile, form, topic);
 }
 
