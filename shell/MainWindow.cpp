@@ -36,12 +36,19 @@ const QSize PictureSize = CataloguePictureSize;
 QPixmap pictureOf(const QString& form, const QString& title, qreal ratio)
 {
     for (const RenderedPicture& rendered : renderedPictures()) {
-        if (form == QLatin1String(rendered.form) && qFuzzyCompare(ratio, qreal(rendered.ratio))) {
-            QPixmap picture;
-            if (picture.loadFromData(rendered.data, uint(rendered.size), "PNG")) {
-                picture.setDevicePixelRatio(ratio);
-                return picture;
-            }
+        if (form != QLatin1String(rendered.form) || !qFuzzyCompare(ratio, qreal(rendered.ratio)))
+            continue;
+        QPixmap picture;
+        if (rendered.pixels) {
+            const QImage image(reinterpret_cast<const uchar*>(rendered.data), rendered.width, rendered.height,
+                               QImage::Format_ARGB32_Premultiplied);
+            picture = QPixmap::fromImage(image);
+        } else {
+            picture.loadFromData(reinterpret_cast<const uchar*>(rendered.data), uint(rendered.size), "PNG");
+        }
+        if (!picture.isNull()) {
+            picture.setDevicePixelRatio(ratio);
+            return picture;
         }
     }
     return effectPicture(form, title, PictureSize, ratio);

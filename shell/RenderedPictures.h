@@ -4,12 +4,15 @@
 
 namespace ql {
 
-// A catalogue picture drawn at build time: PNG data for one form at one
-// device pixel ratio.
+// A catalogue picture drawn at build time for one form at one device pixel
+// ratio: premultiplied ARGB32 pixels, or PNG data.
 struct RenderedPicture {
     const char* form;
     int ratio;
-    const unsigned char* data;
+    bool pixels;
+    int width;
+    int height;
+    const char* data;
     int size;
 };
 

@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
+#include <QImage>
 #include <QSaveFile>
 #include <cstdio>
 
@@ -27,21 +28,36 @@ int main(int argc, char* argv[])
     int index = 0;
     for (const ql::CatalogueEntry& entry : ql::catalogue()) {
         for (int ratio : {1, 2}) {
-            const QPixmap picture = ql::effectPicture(entry.form, entry.title, ql::CataloguePictureSize, ratio);
-            QByteArray png;
-            QBuffer buffer(&png);
-            buffer.open(QIODevice::WriteOnly);
-            // Stored without compression: it loads faster than it would from a smaller file.
-            picture.toImage().save(&buffer, "PNG", 100);
-            source += "const unsigned char picture" + QByteArray::number(index) + "[] = {";
-            for (int i = 0; i < png.size(); ++i) {
-                if (i % 24 == 0)
-                    source += "\n    ";
-                source += QByteArray::number(static_cast<unsigned char>(png[i])) + ",";
+            const QImage picture = ql::effectPicture(entry.form, entry.title, ql::CataloguePictureSize, ratio)
+                                       .toImage()
+                                       .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+            // The pictures of the usual screens are kept as pixels, ready to
+            // show; the others as PNG, smaller.
+            QByteArray data;
+            if (ratio == 1) {
+                data = QByteArray(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes());
+            } else {
+                QBuffer buffer(&data);
+                buffer.open(QIODevice::WriteOnly);
+                picture.save(&buffer, "PNG");
             }
-            source += "\n};\n\n";
-            table += "        {\"" + entry.form.toLatin1() + "\", " + QByteArray::number(ratio) + ", picture" +
-                     QByteArray::number(index) + ", " + QByteArray::number(png.size()) + "},\n";
+            source += "const char picture" + QByteArray::number(index) + "[] =";
+            for (int i = 0; i < data.size(); ++i) {
+                if (i % 32 == 0)
+                    source += "\n    \"";
+                const auto byte = static_cast<unsigned char>(data[i]);
+                source += '\\';
+                source += char('0' + (byte >> 6));
+                source += char('0' + ((byte >> 3) & 7));
+                source += char('0' + (byte & 7));
+                if (i % 32 == 31 || i + 1 == data.size())
+                    source += '"';
+            }
+            source += ";\n\n";
+            table += "        {\"" + entry.form.toLatin1() + "\", " + QByteArray::number(ratio) + ", " +
+                     (ratio == 1 ? "true" : "false") + ", " + QByteArray::number(picture.width()) + ", " +
+                     QByteArray::number(picture.height()) + ", picture" + QByteArray::number(index) + ", " +
+                     QByteArray::number(data.size()) + "},\n";
             ++index;
         }
     }
