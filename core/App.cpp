@@ -27,7 +27,7 @@ protected:
         if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1)
             return false;
         FormBase* form = formOf(watched);
-        if (!form || &form->app() != &app_ || !form->helpOnF1())
+        if (!form || &form->app() != &app_)
             return false;
         form->sendHelp();
         return true;

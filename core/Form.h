@@ -26,8 +26,6 @@ public:
     virtual void load() {}
     // Runs when the form is unloaded, whatever the reason.
     virtual void unloading() {}
-    // Whether a press of F1 anywhere in the form opens its help.
-    virtual bool helpOnF1() const { return true; }
 
     virtual QWidget* widget() = 0;
 

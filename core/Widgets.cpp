@@ -164,11 +164,6 @@ int PageStack::addPage(QWidget* page)
     return addWidget(page);
 }
 
-void PageStack::bringToFront(QWidget* page)
-{
-    setCurrentWidget(page);
-}
-
 void PageStack::bringToFront(int index)
 {
     setCurrentIndex(index);

@@ -83,9 +83,7 @@ class PageStack : public QStackedWidget {
 public:
     explicit PageStack(QWidget* parent = nullptr);
     int addPage(QWidget* page);
-    void bringToFront(QWidget* page);
     void bringToFront(int index);
-    bool inFront(const QWidget* page) const { return currentWidget() == page; }
 };
 
 // A command button of a form; Enter in a text box does not press it.

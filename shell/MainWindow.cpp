@@ -225,11 +225,6 @@ void MainWindow::load()
     }
 }
 
-QToolButton* MainWindow::effectButton(const QString& name) const
-{
-    return findChild<QToolButton*>(name);
-}
-
 void MainWindow::describe(const QString& title, const QString& description)
 {
     Label3->setText(title);

@@ -21,9 +21,6 @@ public:
     QWidget* widget() override { return this; }
     void load() override;
 
-    // The effect buttons, by control name.
-    QToolButton* effectButton(const QString& name) const;
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
