@@ -114,6 +114,30 @@ private slots:
         QCOMPARE(extract("var msg  = \"Hi there\";", "var msg  ="), QString(" "));
     }
 
+    void anyTextAndKeyIsReadWithoutHarm()
+    {
+        // Random code and keys built from the characters that matter.
+        const QString alphabet = QStringLiteral("\"= VALUEHIGTWDCO<>\r\nab");
+        quint32 seed = 12345;
+        auto next = [&seed] {
+            seed = seed * 1103515245u + 12345u;
+            return (seed >> 16) & 0x7fff;
+        };
+        for (int round = 0; round < 2000; ++round) {
+            QString code, key;
+            const int codeLength = int(next() % 40);
+            const int keyLength = int(next() % 6);
+            for (int i = 0; i < codeLength; ++i)
+                code += alphabet[int(next() % alphabet.size())];
+            for (int i = 0; i < keyLength; ++i)
+                key += alphabet[int(next() % alphabet.size())];
+            const QString value = extract(code, key);
+            QVERIFY(!value.contains('"'));
+            QVERIFY(value.size() <= code.size());
+            QVERIFY(classPrefix(code, 8).size() <= 8);
+        }
+    }
+
     // Class prefixes
     void prefixesFollowTheFirstCode()
     {
