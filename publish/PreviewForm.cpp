@@ -151,29 +151,23 @@ void PreviewForm::buildMenus()
     });
     entry(edit, "mnuEditApplet", "&Edit applet...", [this] { ReturnToEditApplet(false, 16); });
     QMenu* steps = menu("mnuSteps", "&Steps");
-    entry(steps, "mnuStep1", "Step &1: Preview your special effect", [this] {
-        StepIndex = 1;
+    // The menu reaches a step from anywhere; only Step 1 leaves Previous off.
+    auto toStep = [this](qint16 step) {
+        StepIndex = step;
         setNavigationShown(true);
-        toFront(0);
-        Command14->setEnabled(false);
+        toFront(step - 1);
+        Command14->setEnabled(step != 1);
         Command15->setEnabled(true);
-    });
-    entry(steps, "mnuManualCopy", "Step &2: Insert HTML code into your Web page", [this] {
-        StepIndex = 2;
-        setNavigationShown(true);
-        toFront(1);
+    };
+    entry(steps, "mnuStep1", "Step &1: Preview your special effect", [toStep] { toStep(1); });
+    entry(steps, "mnuManualCopy", "Step &2: Insert HTML code into your Web page", [this, toStep] {
+        toStep(2);
         app().platform().clearClipboard();
         app().platform().setClipboardText(Text1->text());
-        Command14->setEnabled(true);
-        Command15->setEnabled(true);
     });
-    entry(steps, "mnuAutocopy", "Step &3: Copy required files", [this] {
-        StepIndex = 3;
-        setNavigationShown(true);
-        toFront(2);
+    entry(steps, "mnuAutocopy", "Step &3: Copy required files", [this, toStep] {
+        toStep(3);
         step3DefaultLayout();
-        Command14->setEnabled(true);
-        Command15->setEnabled(true);
     });
 }
 
