@@ -31,6 +31,14 @@ bool canEnterDrive(App& app, const QString& drive)
     return false;
 }
 
+void followDrive(App& app, DriveListBox& drives, DirListBox& folders, const QString& drive)
+{
+    if (canEnterDrive(app, drive))
+        folders.setPath(drive);
+    else
+        drives.revert();
+}
+
 // ---- DriveListBox
 
 DriveListBox::DriveListBox(FileSystem& files, QWidget* parent)

@@ -78,6 +78,10 @@ class App;
 // errors say nothing).
 bool canEnterDrive(App& app, const QString& drive);
 
+// The folder list follows a drive chosen in the drive list; a drive that
+// cannot be entered is refused and the drive list shows the old one again.
+void followDrive(App& app, DriveListBox& drives, DirListBox& folders, const QString& drive);
+
 // A path and a name joined with one separator.
 QString joinPath(const QString& folder, const QString& name);
 

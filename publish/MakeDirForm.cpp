@@ -29,12 +29,8 @@ MakeDirForm::MakeDirForm(App& app)
     auto* cancel = commandButton(this, "Command2", QStringLiteral("&Cancel"));
     connect(create, &QPushButton::clicked, this, [this] { MakeDirEnter(); });
     connect(cancel, &QPushButton::clicked, this, [this] { unload(); });
-    connect(Drive1, &DriveListBox::driveChanged, this, [this](const QString& drive) {
-        if (canEnterDrive(this->app(), drive))
-            Dir1->setPath(drive);
-        else
-            Drive1->revert();
-    });
+    connect(Drive1, &DriveListBox::driveChanged, this,
+            [this](const QString& drive) { followDrive(this->app(), *Drive1, *Dir1, drive); });
 
     auto* caption = named(new QLabel(QStringLiteral("Create a new folder in:"), this), "Label1");
     auto* nameCaption = named(new QLabel(QStringLiteral("New folder &name:"), this), "Label2");

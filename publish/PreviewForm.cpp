@@ -281,8 +281,10 @@ QWidget* PreviewForm::buildStep3()
 
     connect(Dir1, &DirListBox::pathChanged, this, [this](const QString& path) { File1->setPath(path); });
     connect(Dir2, &DirListBox::pathChanged, this, [this](const QString& path) { File2->setPath(path); });
-    connect(Drive1, &DriveListBox::driveChanged, this, [this](const QString& d) { changeDrive(Drive1, Dir1, d); });
-    connect(Drive2, &DriveListBox::driveChanged, this, [this](const QString& d) { changeDrive(Drive2, Dir2, d); });
+    connect(Drive1, &DriveListBox::driveChanged, this,
+            [this](const QString& d) { followDrive(app(), *Drive1, *Dir1, d); });
+    connect(Drive2, &DriveListBox::driveChanged, this,
+            [this](const QString& d) { followDrive(app(), *Drive2, *Dir2, d); });
     connect(Command6, &QPushButton::clicked, this, [this] { copyFiles(); });
     connect(Command1, &QToolButton::clicked, this, [this] { makeDir(); });
     connect(Command7, &QPushButton::clicked, this, [this] { manualCopy(); });

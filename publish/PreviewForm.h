@@ -78,7 +78,6 @@ private:
     void manualCopy();
     void manualCopyDone();
     void makeDir();
-    bool changeDrive(DriveListBox* drives, DirListBox* folders, const QString& drive);
     void writeBackup(const QString& target);
     void recordFailure(const QString& name, bool& failed);
 

@@ -247,16 +247,6 @@ void PreviewForm::manualCopyDone()
     Command15->setEnabled(false);
 }
 
-bool PreviewForm::changeDrive(DriveListBox* drives, DirListBox* folders, const QString& drive)
-{
-    if (!canEnterDrive(app(), drive)) {
-        drives->revert();
-        return false;
-    }
-    folders->setPath(drive);
-    return true;
-}
-
 void PreviewForm::makeDir()
 {
     app().forms().show(QStringLiteral("MakeDir"), true);
