@@ -73,10 +73,8 @@ void DriveListBox::showDriveOf(const QString& path)
         if ((path == root || path.startsWith(prefix)) && root.size() > best.size())
             best = root;
     }
-    if (best.isEmpty())
-        return;
-    drive_ = best;
-    setCurrentIndex(findText(best));
+    if (!best.isEmpty())
+        showDrive(best);
 }
 
 void DriveListBox::showDrive(const QString& drive)

@@ -142,11 +142,6 @@ void CodeBox::replaceSelection(const QString& replacement)
     textCursor().insertText(inner);
 }
 
-void CodeBox::selectAllText()
-{
-    selectAll();
-}
-
 // ---- PageStack
 
 namespace {

@@ -69,7 +69,6 @@ public:
     QString selectedText() const;
     void setSelection(int start, int length);
     void replaceSelection(const QString& text);
-    void selectAllText();
 
 private:
     int toInner(int crlfPosition) const;

@@ -146,7 +146,7 @@ void PreviewForm::buildMenus()
         Text1->setFocus();
     });
     entry(edit, "mnuSelectAll", "Select &All", [this] {
-        Text1->selectAllText();
+        Text1->selectAll();
         Text1->setFocus();
     });
     entry(edit, "mnuEditApplet", "&Edit applet...", [this] { ReturnToEditApplet(false, 16); });
@@ -573,7 +573,7 @@ void PreviewForm::copyToClipboard()
     Platform& platform = app().platform();
     platform.clearClipboard();
     if (SectionedCode == 0) {
-        Text1->selectAllText();
+        Text1->selectAll();
         Text1->setFocus();
         platform.setClipboardText(Text1->selectedText());
         return;

@@ -21,8 +21,8 @@ extern const QString PreviewBannerPlain;
 QString previewPageText(const QString& code, int effectId);
 
 // Writes ql-prvw.htm into the program folder from the code of the Preview
-// wizard's code box and opens it. `focusCodeBox` runs when the user cancels
-// the browser pick.
+// wizard's code box and opens it. `codeBox` takes the focus when the user
+// cancels the browser pick.
 void ShowPreviewPage(App& app, const QString& code, QWidget* window, QWidget* codeBox);
 
 // Starts the user's HTML editor, asking for it first when it is not set.
