@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QPair>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -51,6 +53,18 @@ struct EffectSession {
     // A text, or a whole number for a numeric registry value.
     QVariant RegistryValue = QString();
     qint16 PulldownItemMode = 0;
+
+    // The media files the effect names, each with its source path ("" where
+    // it is not known), in slot order; empty slots left out.
+    QList<QPair<QString, QString>> requiredMedia() const
+    {
+        QList<QPair<QString, QString>> media;
+        for (int i = 0; i < SlotArray<51>::Size; ++i) {
+            if (!RequiredFiles.at(i).isEmpty())
+                media.append({RequiredFiles.at(i), RequiredPaths.at(i)});
+        }
+        return media;
+    }
 
     void eraseArrays()
     {

@@ -49,11 +49,7 @@ void PreviewForm::previewEffect()
     Dir1->setPath(folder);
 
     bool failed = false;
-    for (int i = 0; i < SlotArray<51>::Size; ++i) {
-        const QString name = session.RequiredFiles.at(i);
-        if (name.isEmpty())
-            continue;
-        const QString source = session.RequiredPaths.at(i);
+    for (const auto& [name, source] : session.requiredMedia()) {
         bool done = false;
         for (const QString& present : File1->entries()) {
             // This test stands inside the walk: an empty folder never makes it.
@@ -155,11 +151,7 @@ void PreviewForm::copyFiles()
                error == FileError::PathFileAccess;
     };
     bool failed = false;
-    for (int i = 0; i < SlotArray<51>::Size; ++i) {
-        const QString name = session.RequiredFiles.at(i);
-        if (name.isEmpty())
-            continue;
-        const QString source = session.RequiredPaths.at(i);
+    for (const auto& [name, source] : session.requiredMedia()) {
         if (source.isEmpty()) {
             recordFailure(name, failed);
             continue;
