@@ -206,6 +206,7 @@ QWidget* PreviewForm::buildStep2()
     connect(copy, &QToolButton::clicked, this, [this] { copyToClipboard(); });
     Text1 = named(new CodeBox(page), "Text1");
     Text1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    Text1->setMinimumHeight(120);
     Label9 = text(page, "Label9",
                   QStringLiteral("2. Open an HTML document in your Web page editor, and place your cursor in the "
                                  "location where you want to insert this special effect."));
@@ -541,8 +542,8 @@ void PreviewForm::step2Layout()
     Label8->setText(sections
                         ? QStringLiteral("Select each section of code and click here to copy to the Windows Clipboard-->")
                         : QStringLiteral("1. Click here to copy this HTML code to the Windows Clipboard-->"));
-    // The code box takes the room the hidden labels leave.
-    Text1->setMinimumHeight(sections ? 300 : 160);
+    // The code box takes the room the hidden labels leave: it has the
+    // page's stretch.
 }
 
 void PreviewForm::step3DefaultLayout()
