@@ -9,6 +9,7 @@
 #include "core/Icons.h"
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextDocument>
 
 namespace ql {
 
@@ -70,25 +71,70 @@ void ColorSwatch::paintColor(quint32 color)
 
 // ---- CodeBox
 
+namespace {
+
+// The text with every LF break written as CRLF, in one pass.
+QString withCrlfBreaks(const QString& inner)
+{
+    const qsizetype breaks = inner.count(QLatin1Char('\n'));
+    if (breaks == 0)
+        return inner;
+    QString out(inner.size() + breaks, Qt::Uninitialized);
+    QChar* o = out.data();
+    for (const QChar c : inner) {
+        if (c == QLatin1Char('\n'))
+            *o++ = QLatin1Char('\r');
+        *o++ = c;
+    }
+    return out;
+}
+
+// The text with its CRLF and lone CR breaks written as LF, in one pass.
+QString withLfBreaks(const QString& text)
+{
+    if (!text.contains(QLatin1Char('\r')))
+        return text;
+    QString out(text.size(), Qt::Uninitialized);
+    QChar* o = out.data();
+    const QChar* p = text.constData();
+    const QChar* const end = p + text.size();
+    while (p < end) {
+        if (*p == QLatin1Char('\r')) {
+            *o++ = QLatin1Char('\n');
+            ++p;
+            if (p < end && *p == QLatin1Char('\n'))
+                ++p;
+        } else {
+            *o++ = *p++;
+        }
+    }
+    out.truncate(o - out.constData());
+    return out;
+}
+
+}  // namespace
+
 CodeBox::CodeBox(QWidget* parent)
     : QPlainTextEdit(parent)
 {
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setTabChangesFocus(true);
+    // Any change of the document, typed, pasted or set, drops the kept text.
+    connect(document(), &QTextDocument::contentsChanged, this, [this] { crlfTextValid_ = false; });
 }
 
 QString CodeBox::text() const
 {
-    QString inner = toPlainText();
-    return inner.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+    if (!crlfTextValid_) {
+        crlfText_ = withCrlfBreaks(toPlainText());
+        crlfTextValid_ = true;
+    }
+    return crlfText_;
 }
 
 void CodeBox::setText(const QString& text)
 {
-    QString inner = text;
-    inner.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    inner.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    setPlainText(inner);
+    setPlainText(withLfBreaks(text));
 }
 
 int CodeBox::toCrlf(int innerPosition) const
@@ -136,10 +182,7 @@ void CodeBox::setSelection(int start, int length)
 
 void CodeBox::replaceSelection(const QString& replacement)
 {
-    QString inner = replacement;
-    inner.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    inner.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    textCursor().insertText(inner);
+    textCursor().insertText(withLfBreaks(replacement));
 }
 
 // ---- PageStack
