@@ -617,10 +617,8 @@ void PreviewForm::ReturnToEditApplet(bool modal, int lastEffect)
 void PreviewForm::returnToMainMenu()
 {
     FormRegistry& forms = app().forms();
-    for (const char* name : {"Anim", "AnimWizard", "BBWizard", "Anim", "Clock", "DynaBut", "Fade", "Password",
-                             "ImageEffects", "StatusBar", "Swirly", "Typer", "SmoothScroll", "FadeMsg", "NavTicker",
-                             "Sound", "Pulldown"})
-        forms.unload(QString::fromLatin1(name));
+    for (const QString& name : finishUnloads())
+        forms.unload(name);
     unload();
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/App.h"
 #include "core/ExtractParam.h"
+#include "core/FormNames.h"
 #include "core/Widgets.h"
 
 #include <QFontDatabase>
@@ -28,19 +29,19 @@ struct Route {
 const QList<Route>& routes()
 {
     static const QList<Route> table = {
-        {{"Clock", "\"Cloc"}, "Clock"},
+        {{"Clock", "\"Cloc"}, FormName::Clock},
         {{"Anima", "\"Anim"}, EditAppletForm::WizardChoice},
-        {{"AnFad", "\"AnFa"}, "ImageEffects"},
-        {{"Lake.", "\"Lake"}, "ImageEffects"},
-        {{"rippl", "\"ripp"}, "ImageEffects"},
-        {{"TmapC", "\"Tmap"}, "ImageEffects"},
-        {{"Butto", "\"Butt"}, "DynaBut"},
-        {{"Navig", "\"Navi"}, "NavTicker"},
-        {{"FadeT", "\"Fade"}, "FadeMsg"},
-        {{"Color", "\"Colo"}, "Swirly"},
-        {{"Simpl", "\"Simp"}, "Sound"},
-        {{"Typew", "\"Type"}, "Typer"},
-        {{"RTLSc", "LTRSc", "\"RTLS", "\"LTRS"}, "SmoothScroll"},
+        {{"AnFad", "\"AnFa"}, FormName::ImageEffects},
+        {{"Lake.", "\"Lake"}, FormName::ImageEffects},
+        {{"rippl", "\"ripp"}, FormName::ImageEffects},
+        {{"TmapC", "\"Tmap"}, FormName::ImageEffects},
+        {{"Butto", "\"Butt"}, FormName::DynaBut},
+        {{"Navig", "\"Navi"}, FormName::NavTicker},
+        {{"FadeT", "\"Fade"}, FormName::FadeMsg},
+        {{"Color", "\"Colo"}, FormName::Swirly},
+        {{"Simpl", "\"Simp"}, FormName::Sound},
+        {{"Typew", "\"Type"}, FormName::Typer},
+        {{"RTLSc", "LTRSc", "\"RTLS", "\"LTRS"}, FormName::SmoothScroll},
     };
     return table;
 }
@@ -54,6 +55,16 @@ QString EditAppletForm::routeOf(const QString& prefix5)
             return route.form;
     }
     return QString();
+}
+
+QStringList EditAppletForm::routedForms()
+{
+    QStringList forms = {FormName::Anim, FormName::AnimWizard, FormName::BBWizard};
+    for (const Route& route : routes()) {
+        if (route.form != WizardChoice && !forms.contains(route.form))
+            forms << route.form;
+    }
+    return forms;
 }
 
 EditAppletForm::EditAppletForm(App& app)
@@ -164,11 +175,11 @@ void EditAppletForm::editWithWizard()
 {
     QString form;
     if (Option1->isChecked())
-        form = QStringLiteral("Anim");
+        form = FormName::Anim;
     else if (Option2->isChecked())
-        form = QStringLiteral("AnimWizard");
+        form = FormName::AnimWizard;
     else if (Option3->isChecked())
-        form = QStringLiteral("BBWizard");
+        form = FormName::BBWizard;
     if (!form.isEmpty())
         app().forms().show(form, false);
     unload();

@@ -21,6 +21,8 @@ public:
     // the choice of animation wizard, "" for none.
     static QString routeOf(const QString& prefix5);
     static const QString WizardChoice;
+    // Every form that re-edit opens, the wizard choice's three included.
+    static QStringList routedForms();
 
 private:
     void edit();
