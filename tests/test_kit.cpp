@@ -11,6 +11,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QTemporaryDir>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -260,6 +263,75 @@ private slots:
         // Escape is Cancel.
         d.on("KitProbe", "Text0", "key", {{"key", "Escape"}});
         QVERIFY(!d.loaded("KitProbe"));
+    }
+    void previewEditMenuNeverFocusesAHiddenControl()
+    {
+        d.start();
+        d.click("QLMain", "Command4");
+        d.setText("Swirly", "Text7", "x");
+        d.setText("Swirly", "Text10", "10");
+        d.setText("Swirly", "Text11", "10");
+        d.click("Swirly", "Command1");
+        QWidget* preview = d.app().forms().findWidget("Preview");
+        const QString code = d.text("Preview", "Text1");
+        for (const char* entry : {"mnuSelectAll", "mnuCopy", "mnuPaste"}) {
+            d.click("Preview", entry);
+            QWidget* focus = preview->focusWidget();
+            QVERIFY2(!focus || (focus->isVisible() && focus->isEnabled()), entry);
+            QVERIFY2(d.on("Preview", "Preview", "focus").toString() != "Text1", entry);
+        }
+        // Typing on Step 1 does not reach the code of Step 2.
+        if (QWidget* focus = preview->focusWidget())
+            QTest::keyClicks(focus, "typed");
+        d.click("Preview", "Command15");
+        QCOMPARE(d.ok({{"op", "clipboard"}}).toString(), code);
+        // On Step 2 the box is shown and takes the focus.
+        d.click("Preview", "mnuSelectAll");
+        QCOMPARE(d.on("Preview", "Preview", "focus").toString(), QString("Text1"));
+    }
+    void previewEnterMovesOnAndFinishFocusesTheWayBack()
+    {
+        d.start();
+        d.click("QLMain", "Command4");
+        d.setText("Swirly", "Text7", "x");
+        d.setText("Swirly", "Text10", "10");
+        d.setText("Swirly", "Text11", "10");
+        d.click("Swirly", "Command1");
+        auto* preview = static_cast<QDialog*>(d.app().forms().findWidget("Preview"));
+        QVERIFY(preview->findChild<QPushButton*>("Command15")->isDefault());
+        d.on("Preview", "Command11", "key", {{"key", "Enter"}});
+        QVERIFY(d.on("Preview", "Picture1(1)", "on_top").toBool());
+        d.click("Preview", "Command15");
+        d.click("Preview", "Command15");
+        QVERIFY(d.on("Preview", "Picture1(4)", "on_top").toBool());
+        QWidget* focus = preview->focusWidget();
+        QVERIFY(focus && focus->isVisible() && focus->isEnabled());
+        QCOMPARE(d.on("Preview", "Preview", "focus").toString(), QString("Command5"));
+        QVERIFY(preview->findChild<QPushButton*>("Command5")->isDefault());
+    }
+    void step3FolderTreesSayWhatTheyAreAndShowTheirPath()
+    {
+        d.start();
+        d.click("QLMain", "Command4");
+        d.setText("Swirly", "Text7", "x");
+        d.setText("Swirly", "Text10", "10");
+        d.setText("Swirly", "Text11", "10");
+        d.click("Swirly", "Command1");
+        d.click("Preview", "Command15");
+        d.click("Preview", "Command15");
+        QTemporaryDir dir;
+        const QString deep = dir.path() + "/a/very/long/folder/name/for/the/page";
+        QVERIFY(QDir().mkpath(deep));
+        d.on("Preview", "Dir1", "set_path", {{"path", deep}});
+        QWidget* frame = d.app().forms().findWidget("Preview")->findChild<QWidget*>("Frame5");
+        QStringList shown;
+        for (QLabel* label : frame->findChildren<QLabel*>()) {
+            if (label->isVisibleTo(frame))
+                shown << captionOf(label).remove(QChar(0x200B));
+        }
+        QVERIFY2(shown.contains("Copy the files to this folder:"), qPrintable(shown.join("|")));
+        QVERIFY(!shown.contains("Look for the files in this folder:"));
+        QVERIFY(shown.contains(deep));
     }
     void wizardTextsKeepTheirRoom()
     {
