@@ -3,6 +3,7 @@
 #include "core/App.h"
 #include "core/ExtractParam.h"
 #include "core/FormNames.h"
+#include "core/Keyboard.h"
 #include "core/Widgets.h"
 
 #include <QFontDatabase>
@@ -83,6 +84,7 @@ EditAppletForm::EditAppletForm(App& app)
     Text1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     Text1->setMinimumSize(520, 240);
     auto* edit = commandButton(Picture1, "Command1", QStringLiteral("&Edit"));
+    edit->setDefault(true);
     auto* cancel = commandButton(Picture1, "Command2", QStringLiteral("&Cancel"));
     auto* help = helpButton(Picture1, "Command5");
     auto* row1 = new QHBoxLayout;
@@ -106,6 +108,7 @@ EditAppletForm::EditAppletForm(App& app)
     Option2 = named(new QRadioButton(QStringLiteral("Animation Wizard"), Picture2), "Option2");
     Option3 = named(new QRadioButton(QStringLiteral("Billboard Wizard"), Picture2), "Option3");
     auto* edit2 = commandButton(Picture2, "Command3", QStringLiteral("&Edit"));
+    edit2_ = edit2;
     auto* cancel2 = commandButton(Picture2, "Command4", QStringLiteral("&Cancel"));
     auto* row2 = new QHBoxLayout;
     row2->addStretch();
@@ -169,6 +172,10 @@ void EditAppletForm::showPage2()
 {
     Picture1->hide();
     Picture2->show();
+    // Enter edits with the wizard picked; the choice takes the focus.
+    edit2_->setDefault(true);
+    focusIfShown(Option1);
+    settleFocus(this);
 }
 
 void EditAppletForm::editWithWizard()

@@ -2,6 +2,7 @@
 
 #include "core/Form.h"
 
+class QPushButton;
 class QRadioButton;
 class QWidget;
 
@@ -35,6 +36,7 @@ private:
     QRadioButton* Option1;
     QRadioButton* Option2;
     QRadioButton* Option3;
+    QPushButton* edit2_;
 };
 
 }  // namespace ql
