@@ -65,17 +65,6 @@ bool wantsAccessKey(QWidget* w)
     return qobject_cast<QCheckBox*>(w) || qobject_cast<QRadioButton*>(w) || qobject_cast<QPushButton*>(w);
 }
 
-QString shownCaption(QWidget* w)
-{
-    if (auto* label = qobject_cast<QLabel*>(w))
-        return label->text();
-    if (auto* button = qobject_cast<QAbstractButton*>(w))
-        return button->text();
-    if (auto* group = qobject_cast<QGroupBox*>(w))
-        return group->title();
-    return QString();
-}
-
 void setShownCaption(QWidget* w, const QString& caption)
 {
     if (auto* label = qobject_cast<QLabel*>(w))

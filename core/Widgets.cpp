@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -217,13 +218,20 @@ const char* const Caption = "qlCaption";
 const char* const Marked = "qlMarked";
 }
 
+QString shownCaption(const QObject* control)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(control))
+        return label->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(control))
+        return button->text();
+    if (const auto* group = qobject_cast<const QGroupBox*>(control))
+        return group->title();
+    return QString();
+}
+
 QString captionOf(const QObject* control)
 {
-    QString shown;
-    if (const auto* label = qobject_cast<const QLabel*>(control))
-        shown = label->text();
-    else if (const auto* button = qobject_cast<const QAbstractButton*>(control))
-        shown = button->text();
+    const QString shown = shownCaption(control);
     // A caption the program changed since the keyboard pass reads as it is.
     if (control->property(Marked).toString() == shown && control->property(Caption).isValid())
         return control->property(Caption).toString();

@@ -96,6 +96,9 @@ QPushButton* commandButton(QWidget* parent, const QString& name, const QString& 
 // The round help button, with its tool tip "Click here for help".
 QToolButton* helpButton(QWidget* parent, const QString& name);
 
+// The caption a control shows on screen: a label's or button's text, a
+// frame's title.
+QString shownCaption(const QObject* control);
 // The caption a control shows, as the program wrote it: without the access
 // key marker that the keyboard pass added ("&Font:" reads "Font:").
 QString captionOf(const QObject* control);

@@ -133,6 +133,17 @@ class KitTest : public QObject {
 
     TestDriver d;
 
+    // A fresh program with Swirly Text handed over to the Preview wizard.
+    void swirlyInPreview()
+    {
+        d.start();
+        d.click("QLMain", "Command4");
+        d.setText("Swirly", "Text7", "x");
+        d.setText("Swirly", "Text10", "10");
+        d.setText("Swirly", "Text11", "10");
+        d.click("Swirly", "Command1");
+    }
+
 private slots:
     void everyNamedFormIsRegisteredOrListedAsNotBuilt()
     {
@@ -266,12 +277,7 @@ private slots:
     }
     void previewEditMenuNeverFocusesAHiddenControl()
     {
-        d.start();
-        d.click("QLMain", "Command4");
-        d.setText("Swirly", "Text7", "x");
-        d.setText("Swirly", "Text10", "10");
-        d.setText("Swirly", "Text11", "10");
-        d.click("Swirly", "Command1");
+        swirlyInPreview();
         QWidget* preview = d.app().forms().findWidget("Preview");
         const QString code = d.text("Preview", "Text1");
         for (const char* entry : {"mnuSelectAll", "mnuCopy", "mnuPaste"}) {
@@ -291,12 +297,7 @@ private slots:
     }
     void previewEnterMovesOnAndFinishFocusesTheWayBack()
     {
-        d.start();
-        d.click("QLMain", "Command4");
-        d.setText("Swirly", "Text7", "x");
-        d.setText("Swirly", "Text10", "10");
-        d.setText("Swirly", "Text11", "10");
-        d.click("Swirly", "Command1");
+        swirlyInPreview();
         auto* preview = static_cast<QDialog*>(d.app().forms().findWidget("Preview"));
         QVERIFY(preview->findChild<QPushButton*>("Command15")->isDefault());
         d.on("Preview", "Command11", "key", {{"key", "Enter"}});
@@ -311,12 +312,7 @@ private slots:
     }
     void step3FolderTreesSayWhatTheyAreAndShowTheirPath()
     {
-        d.start();
-        d.click("QLMain", "Command4");
-        d.setText("Swirly", "Text7", "x");
-        d.setText("Swirly", "Text10", "10");
-        d.setText("Swirly", "Text11", "10");
-        d.click("Swirly", "Command1");
+        swirlyInPreview();
         d.click("Preview", "Command15");
         d.click("Preview", "Command15");
         QTemporaryDir dir;
