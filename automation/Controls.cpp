@@ -263,10 +263,8 @@ QJsonValue textOf(QObject* control)
         return rich->toPlainText();
     if (auto* combo = qobject_cast<QComboBox*>(control))
         return combo->currentText();
-    if (auto* label = qobject_cast<QLabel*>(control))
-        return label->text();
-    if (auto* button = qobject_cast<QAbstractButton*>(control))
-        return button->text();
+    if (qobject_cast<QLabel*>(control) || qobject_cast<QAbstractButton*>(control))
+        return captionOf(control);
     if (auto* group = qobject_cast<QGroupBox*>(control))
         return group->title();
     if (auto* menu = qobject_cast<QMenu*>(control))

@@ -2,6 +2,7 @@
 
 #include "core/ExtractParam.h"
 #include "core/Form.h"
+#include "core/Style.h"
 #include "core/Widgets.h"
 
 #include <QApplication>
@@ -45,6 +46,7 @@ App::App(Platform& platform, const QString& programFolder)
     , commonDialog_(platform)
     , forms_(std::make_unique<FormRegistry>(*this))
 {
+    useProgramStyle();
     registerForms(*forms_);
     if (qApp)
         qApp->installEventFilter(new HelpKey(*this));

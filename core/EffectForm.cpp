@@ -1,31 +1,22 @@
 #include "core/EffectForm.h"
 
 #include "core/App.h"
+#include "core/Emission.h"
 #include "core/Text.h"
 #include "core/Widgets.h"
 
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QToolButton>
 
 namespace ql {
 
-const QStringList& FontList()
+EffectForm::EffectForm(App& app, const EffectDescription& description)
+    : Form(app, description.form)
+    , description_(description)
 {
-    static const QStringList list = {"Arial", "Courier", "Dialog", "Helvetica", "TimesRoman"};
-    return list;
-}
-
-const QStringList& FontSizeList()
-{
-    static const QStringList list = {"4",  "6",  "8",  "9",  "10", "11", "12", "14", "16",
-                                     "18", "20", "22", "24", "28", "30", "36", "48", "72"};
-    return list;
-}
-
-EffectForm::EffectForm(App& app, const QString& name)
-    : Form(app, name)
-{
+    helpTopic = description.helpTopic;
 }
 
 void EffectForm::load()
@@ -37,6 +28,12 @@ void EffectForm::load()
         EditApplet();
         session.ReEditMode = 0;
     }
+}
+
+void EffectForm::EditApplet()
+{
+    for (const EditKey& k : description_.editKeys)
+        setFieldText(findChild<QWidget*>(k.control), extract(k.key));
 }
 
 QString EffectForm::extract(const QString& key)
@@ -53,27 +50,30 @@ void EffectForm::refuse(const Refusal& refusal)
         target->setFocus(Qt::OtherFocusReason);
 }
 
-void EffectForm::HandOverToPreview(const QString& code, const QString& requiredFilesMessage,
-                                   const QStringList& classes, qint16 effectId)
+void EffectForm::HandOverToPreview(const HandOver& h)
 {
     EffectSession& session = app().session();
-    session.GeneratedCode = code;
-    app().msgBox(requiredFilesMessage, MsgStyle::Exclamation);
-    for (int i = 0; i < classes.size(); ++i)
-        session.RequiredClasses.set(i, classes[i]);
-    session.EffectId = effectId;
+    session.GeneratedCode = h.code;
+    app().msgBox(h.fileLines.isEmpty() ? NoFilesMessage() : RequiredFilesMessage(h.fileLines),
+                 MsgStyle::Exclamation);
+    for (int i = 0; i < h.classes.size(); ++i)
+        session.RequiredClasses.set(i, h.classes[i]);
+    for (auto it = h.files.begin(); it != h.files.end(); ++it)
+        session.RequiredFiles.set(it.key(), it.value());
+    session.EffectId = h.effectId;
     hide();
     app().forms().show(QStringLiteral("Preview"), true);
 }
 
-bool EffectForm::pickColor(ColorSwatch* swatch, const std::function<void(const QString&)>& write)
+bool EffectForm::pickColor(ColorSwatch* swatch, const std::function<void(const QString&)>& write,
+                           const std::function<QString(quint32)>& format)
 {
     CommonDialog& dialog = app().commonDialog();
     dialog.CancelError = true;
     if (!dialog.ShowColor())
         return false;
     swatch->paintColor(dialog.Color);
-    write(colorTriple(dialog.Color));
+    write(format ? format(dialog.Color) : colorTriple(dialog.Color));
     return true;
 }
 
@@ -93,6 +93,27 @@ bool EffectForm::browseFile(const QString& filter, const QString& title, int slo
     session.RequiredFiles.set(slot, dialog.FileTitle);
     session.RequiredPaths.set(slot, dialog.FileName);
     return true;
+}
+
+QHBoxLayout* EffectForm::commandRow(const QString& doneName, const QString& cancelName, const QString& helpName,
+                                    const QString& doneCaption)
+{
+    auto* row = new QHBoxLayout;
+    // Made in reading order, so that Tab goes Help, Done, Cancel.
+    QToolButton* help = helpName.isEmpty() ? nullptr : makeHelpButton(helpName);
+    QPushButton* doneButton = makeButton(doneName, doneCaption);
+    QPushButton* cancel = cancelName.isEmpty() ? nullptr : makeButton(cancelName, QStringLiteral("&Cancel"));
+    doneButton->setDefault(true);
+    connect(doneButton, &QPushButton::clicked, this, [this] { done(); });
+    if (help)
+        row->addWidget(help);
+    row->addStretch();
+    row->addWidget(doneButton);
+    if (cancel) {
+        row->addWidget(cancel);
+        connect(cancel, &QPushButton::clicked, this, [this] { unload(); });
+    }
+    return row;
 }
 
 QPushButton* EffectForm::makeButton(const QString& name, const QString& caption)

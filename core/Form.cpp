@@ -3,7 +3,11 @@
 #include "core/App.h"
 #include "core/Forms.h"
 
+#include "core/Keyboard.h"
+#include "core/Widgets.h"
+
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QMenu>
 
 namespace ql {
@@ -30,6 +34,19 @@ Form::Form(App& app, const QString& name)
 void Form::unload()
 {
     app().forms().unload(formName());
+}
+
+void Form::showEvent(QShowEvent* event)
+{
+    // Every form keeps the keyboard rules of the program: captions give
+    // access keys, and an editable list box keeps exactly what was typed.
+    if (!shownBefore_) {
+        shownBefore_ = true;
+        giveAccessKeys(this);
+    }
+    for (QComboBox* combo : findChildren<QComboBox*>())
+        noInlineCompletion(combo);
+    QDialog::showEvent(event);
 }
 
 void Form::closeEvent(QCloseEvent* event)

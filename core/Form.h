@@ -46,8 +46,12 @@ public:
     void unload();
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void reject() override;
+
+private:
+    bool shownBefore_ = false;
 };
 
 // The form a widget belongs to, or nullptr.

@@ -1,6 +1,12 @@
 #include "core/Widgets.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -56,7 +62,33 @@ ColorSwatch::ColorSwatch(QWidget* parent)
     setFrameShadow(QFrame::Sunken);
     setCursor(Qt::PointingHandCursor);
     setMinimumSize(56, 22);
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void ColorSwatch::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        event->accept();
+        emit clicked();
+        return;
+    default:
+        ClickLabel::keyPressEvent(event);
+    }
+}
+
+void ColorSwatch::paintEvent(QPaintEvent* event)
+{
+    ClickLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = rect().adjusted(3, 3, -3, -3);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
 void ColorSwatch::paintColor(quint32 color)
@@ -222,6 +254,43 @@ QToolButton* helpButton(QWidget* parent, const QString& name)
     button->setIconSize(QSize(20, 20));
     button->setToolTip(QStringLiteral("Click here for help"));
     return button;
+}
+
+namespace {
+const char* const Caption = "qlCaption";
+const char* const Marked = "qlMarked";
+}
+
+QString shownCaption(const QObject* control)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(control))
+        return label->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(control))
+        return button->text();
+    if (const auto* group = qobject_cast<const QGroupBox*>(control))
+        return group->title();
+    return QString();
+}
+
+QString captionOf(const QObject* control)
+{
+    const QString shown = shownCaption(control);
+    // A caption the program changed since the keyboard pass reads as it is.
+    if (control->property(Marked).toString() == shown && control->property(Caption).isValid())
+        return control->property(Caption).toString();
+    return shown;
+}
+
+void keepCaption(QObject* control, const QString& caption, const QString& marked)
+{
+    control->setProperty(Caption, caption);
+    control->setProperty(Marked, marked);
+}
+
+void noInlineCompletion(QComboBox* combo)
+{
+    if (combo->isEditable())
+        combo->setCompleter(nullptr);
 }
 
 QString fieldText(const QWidget* field)

@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 #include <QStackedWidget>
 
+class QComboBox;
 class QPushButton;
 class QToolButton;
 
@@ -52,6 +53,11 @@ public:
     // Paints the swatch with a colour (red + green * 256 + blue * 65536) and
     // clears its caption.
     void paintColor(quint32 color);
+
+protected:
+    // Space and Enter pick a colour, as a click does.
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 };
 
 // A multi-line text box whose text uses CRLF line breaks, as the code it
@@ -95,6 +101,18 @@ public:
 QPushButton* commandButton(QWidget* parent, const QString& name, const QString& caption);
 // The round help button, with its tool tip "Click here for help".
 QToolButton* helpButton(QWidget* parent, const QString& name);
+
+// The caption a control shows on screen: a label's or button's text, a
+// frame's title.
+QString shownCaption(const QObject* control);
+// The caption a control shows, as the program wrote it: without the access
+// key marker that the keyboard pass added ("&Font:" reads "Font:").
+QString captionOf(const QObject* control);
+// Keeps the caption that the keyboard pass marked with an access key.
+void keepCaption(QObject* control, const QString& caption, const QString& marked);
+
+// An editable list box keeps exactly what was typed: no inline completion.
+void noInlineCompletion(QComboBox* combo);
 
 // The text of a field: a text box, code box or combo box.
 QString fieldText(const QWidget* field);

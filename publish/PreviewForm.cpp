@@ -3,6 +3,8 @@
 #include "core/App.h"
 #include "core/FileLists.h"
 #include "core/Icons.h"
+#include "core/Keyboard.h"
+#include "core/StepWizard.h"
 #include "core/Widgets.h"
 #include "publish/PreviewPage.h"
 #include "publish/PreviewTable.h"
@@ -49,6 +51,14 @@ QLabel* text(QWidget* parent, const QString& name, const QString& caption)
     return label;
 }
 
+// A path that a label may break after any separator.
+QString breakablePath(const QString& path)
+{
+    QString shown = path;
+    shown.replace(QLatin1Char('/'), QStringLiteral("/\u200B"));
+    return shown;
+}
+
 QFrame* separator(QWidget* parent, const QString& name)
 {
     auto* line = named(new QFrame(parent), name);
@@ -66,26 +76,11 @@ PreviewForm::PreviewForm(App& app)
     buildMenus();
 
     // The steps, beside the pages.
-    auto* steps = new QFrame(this);
-    steps_ = steps;
-    steps->setFrameShape(QFrame::StyledPanel);
-    steps->setAutoFillBackground(true);
-    QPalette stepsPalette = steps->palette();
-    stepsPalette.setColor(QPalette::Window, stepsPalette.color(QPalette::Base));
-    steps->setPalette(stepsPalette);
-    auto* stepsLayout = new QVBoxLayout(steps);
-    const QStringList stepNames = {"Step 1: Preview", "Step 2: Insert HTML code", "Step 3: Copy required files",
-                                   "Step 4: Upload to Web server", "Finished"};
-    for (int i = 0; i < stepNames.size(); ++i) {
-        auto* label = named(new QLabel(stepNames[i], steps), arrayName("Label4", i));
-        label->setWordWrap(true);
-        Label4 << label;
-        stepsLayout->addWidget(label);
-    }
+    steps_ = new StepList(this, QStringLiteral("Label4"),
+                          {"Step 1: Preview", "Step 2: Insert HTML code", "Step 3: Copy required files",
+                           "Step 4: Upload to Web server", "Finished"});
     // The upload page is not a step the wizard walks through.
-    Label4[3]->setEnabled(false);
-    stepsLayout->addStretch();
-    steps->setFixedWidth(170);
+    steps_->label(3)->setEnabled(false);
 
     pages_ = new PageStack(this);
     const QList<QWidget*> built = {buildStep1(), buildStep2(), buildStep3(), buildStep4(), buildFinish()};
@@ -101,10 +96,12 @@ PreviewForm::PreviewForm(App& app)
     auto* help = helpButton(this, "Command16");
     connect(Command14, &QPushButton::clicked, this, [this] { previous(); });
     connect(Command15, &QPushButton::clicked, this, [this] { next(); });
+    // Enter moves the wizard on.
+    Command15->setDefault(true);
     connect(help, &QToolButton::clicked, this, [this] { sendHelp(); });
 
     auto* body = new QHBoxLayout;
-    body->addWidget(steps);
+    body->addWidget(steps_);
     body->addWidget(pages_, 1);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(help);
@@ -139,15 +136,15 @@ void PreviewForm::buildMenus()
     entry(edit, "mnuCopy", "&Copy", [this] {
         app().platform().clearClipboard();
         app().platform().setClipboardText(Text1->selectedText());
-        Text1->setFocus();
+        focusIfShown(Text1);
     });
     entry(edit, "mnuPaste", "&Paste", [this] {
         Text1->replaceSelection(app().platform().clipboardText());
-        Text1->setFocus();
+        focusIfShown(Text1);
     });
     entry(edit, "mnuSelectAll", "Select &All", [this] {
         Text1->selectAll();
-        Text1->setFocus();
+        focusIfShown(Text1);
     });
     entry(edit, "mnuEditApplet", "&Edit applet...", [this] { ReturnToEditApplet(false, 16); });
     QMenu* steps = menu("mnuSteps", "&Steps");
@@ -280,8 +277,14 @@ QWidget* PreviewForm::buildStep3()
     Line1 = separator(Frame5, "Line1");
     Line2 = separator(Frame5, "Line2");
 
-    connect(Dir1, &DirListBox::pathChanged, this, [this](const QString& path) { File1->setPath(path); });
-    connect(Dir2, &DirListBox::pathChanged, this, [this](const QString& path) { File2->setPath(path); });
+    connect(Dir1, &DirListBox::pathChanged, this, [this](const QString& path) {
+        File1->setPath(path);
+        targetPath_->setText(breakablePath(path));
+    });
+    connect(Dir2, &DirListBox::pathChanged, this, [this](const QString& path) {
+        File2->setPath(path);
+        sourcePath_->setText(breakablePath(path));
+    });
     connect(Drive1, &DriveListBox::driveChanged, this,
             [this](const QString& d) { followDrive(app(), *Drive1, *Dir1, d); });
     connect(Drive2, &DriveListBox::driveChanged, this,
@@ -306,10 +309,34 @@ QWidget* PreviewForm::buildStep3()
     auto* targetDrive = new QHBoxLayout;
     targetDrive->addWidget(Drive1, 1);
     targetDrive->addWidget(Command1);
-    grid->addWidget(Drive2, 3, 0);
-    grid->addLayout(targetDrive, 3, 2);
-    grid->addWidget(Dir2, 4, 0);
-    grid->addWidget(Dir1, 4, 2);
+    // Each folder tree says what it is for and shows its whole path.
+    sourceCaption_ = new QLabel(QStringLiteral("Look for the files in this folder:"), Frame5);
+    targetCaption_ = new QLabel(QStringLiteral("Copy the files to this folder:"), Frame5);
+    sourcePath_ = new QLabel(Frame5);
+    targetPath_ = new QLabel(Frame5);
+    for (QLabel* path : {sourcePath_, targetPath_}) {
+        path->setWordWrap(true);
+        path->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        path->setForegroundRole(QPalette::PlaceholderText);
+    }
+    sourceCaption_->setBuddy(Dir2);
+    targetCaption_->setBuddy(Dir1);
+    auto* source = new QVBoxLayout;
+    source->addWidget(sourceCaption_);
+    source->addWidget(Drive2);
+    auto* target = new QVBoxLayout;
+    target->addWidget(targetCaption_);
+    target->addLayout(targetDrive);
+    grid->addLayout(source, 3, 0);
+    grid->addLayout(target, 3, 2);
+    auto* sourceTree = new QVBoxLayout;
+    sourceTree->addWidget(Dir2, 1);
+    sourceTree->addWidget(sourcePath_);
+    auto* targetTree = new QVBoxLayout;
+    targetTree->addWidget(Dir1, 1);
+    targetTree->addWidget(targetPath_);
+    grid->addLayout(sourceTree, 4, 0);
+    grid->addLayout(targetTree, 4, 2);
     auto* middle = new QVBoxLayout;
     middle->addStretch();
     middle->addWidget(Label10, 0, Qt::AlignHCenter);
@@ -452,26 +479,26 @@ void PreviewForm::showTargetFolder(const QString& path)
 
 void PreviewForm::toFront(int page)
 {
+    if (page != 4)
+        Command15->setDefault(true);
     pages_->bringToFront(page);
     markStep(page);
+    settleFocus(this);
 }
 
 void PreviewForm::markStep(int page)
 {
-    for (int i = 0; i < Label4.size(); ++i) {
-        QFont f = Label4[i]->font();
-        f.setBold(i == page);
-        Label4[i]->setFont(f);
-    }
+    steps_->mark(page);
 }
 
 void PreviewForm::setNavigationShown(bool shown)
 {
     Command14->setVisible(shown);
     Command15->setVisible(shown);
-    for (QLabel* label : Label4)
-        label->setVisible(shown);
+    for (int i = 0; i < 5; ++i)
+        steps_->label(i)->setVisible(shown);
     steps_->setVisible(shown);
+    settleFocus(this);
 }
 
 void PreviewForm::next()
@@ -490,17 +517,25 @@ void PreviewForm::next()
         toFront(2);
         if (NeedsFiles == 0) {
             StepIndex = 4;
-            toFront(4);
-            Command15->setEnabled(false);
+            showFinish();
         }
         break;
     case 4:
-        toFront(4);
-        Command15->setEnabled(false);
+        showFinish();
         break;
     default:
         break;
     }
+}
+
+void PreviewForm::showFinish()
+{
+    toFront(4);
+    Command15->setEnabled(false);
+    // Enter and the focus go to the way back to the main menu.
+    auto* back = pages_->widget(4)->findChild<QPushButton*>(QStringLiteral("Command5"));
+    back->setDefault(true);
+    focusIfShown(back);
 }
 
 void PreviewForm::previous()
@@ -557,6 +592,15 @@ void PreviewForm::step3DefaultLayout()
         w->hide();
     List1->clear();
     frame5Grid_->setColumnStretch(0, 0);
+    showFolderCaptions();
+}
+
+void PreviewForm::showFolderCaptions()
+{
+    sourceCaption_->setVisible(ownVisibleFlag(Dir2));
+    sourcePath_->setVisible(ownVisibleFlag(Dir2));
+    targetCaption_->setVisible(ownVisibleFlag(Dir1));
+    targetPath_->setVisible(ownVisibleFlag(Dir1));
 }
 
 void PreviewForm::failedCopyLayout()
@@ -566,6 +610,7 @@ void PreviewForm::failedCopyLayout()
         w->show();
     for (QWidget* w : std::initializer_list<QWidget*>{Command6, Label2, Label6})
         w->hide();
+    showFolderCaptions();
     setNavigationShown(false);
 }
 
@@ -617,10 +662,8 @@ void PreviewForm::ReturnToEditApplet(bool modal, int lastEffect)
 void PreviewForm::returnToMainMenu()
 {
     FormRegistry& forms = app().forms();
-    for (const char* name : {"Anim", "AnimWizard", "BBWizard", "Anim", "Clock", "DynaBut", "Fade", "Password",
-                             "ImageEffects", "StatusBar", "Swirly", "Typer", "SmoothScroll", "FadeMsg", "NavTicker",
-                             "Sound", "Pulldown"})
-        forms.unload(QString::fromLatin1(name));
+    for (const QString& name : finishUnloads())
+        forms.unload(name);
     unload();
 }
 

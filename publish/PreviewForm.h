@@ -22,6 +22,7 @@ class DirListBox;
 class DriveListBox;
 class FileListBox;
 class PageStack;
+class StepList;
 
 // The Preview wizard: receives the code of the effect that handed over and
 // takes the user through previewing it, pasting it into a page and placing
@@ -57,12 +58,15 @@ private:
 
     void next();
     void previous();
+    void showFinish();
     void toFront(int page);
     // Marks the step of the page in front in the list of steps.
     void markStep(int page);
     void step2Layout();
     void step3DefaultLayout();
     void failedCopyLayout();
+    // The captions and paths of the folder trees follow the trees.
+    void showFolderCaptions();
     void setNavigationShown(bool shown);
 
     void copyToClipboard();
@@ -82,11 +86,10 @@ private:
     void recordFailure(const QString& name, bool& failed);
 
     QMenuBar* menuBar_ = nullptr;
-    QFrame* steps_ = nullptr;
+    StepList* steps_ = nullptr;
     QGridLayout* frame5Grid_ = nullptr;
     PageStack* pages_;
     QLabel* Label3;
-    QList<QLabel*> Label4;
     QPushButton* Command14;
     QPushButton* Command15;
 
@@ -119,6 +122,10 @@ private:
     QPushButton* Command8;
     QPushButton* Command9;
     QPushButton* Command10;
+    QLabel* sourceCaption_;
+    QLabel* targetCaption_;
+    QLabel* sourcePath_;
+    QLabel* targetPath_;
     QFrame* Line1;
     QFrame* Line2;
     // Step 4

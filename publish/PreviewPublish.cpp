@@ -82,6 +82,7 @@ void PreviewForm::previewEffect()
     Command10->show();
     for (QWidget* w : std::initializer_list<QWidget*>{Drive1, Dir1, File1, Command1, Command6, Command7, Command8})
         w->hide();
+    showFolderCaptions();
     Label14->setText(QStringLiteral("Copy necessary files to preview applet"));
     toFront(2);
 }

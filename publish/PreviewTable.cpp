@@ -1,5 +1,7 @@
 #include "publish/PreviewTable.h"
 
+#include "core/FormNames.h"
+
 namespace ql {
 
 namespace {
@@ -22,7 +24,7 @@ std::optional<PreviewSettings> previewSettings(int effectId,
     case 6: case 8: case 9: case 23:
         return PreviewSettings{classes("None"), false, true};
     case 7: {
-        const QString effect = controlText("ImageEffects", "Combo1");
+        const QString effect = controlText(FormName::ImageEffects, "Combo1");
         QString caption = Prefix;
         if (effect == QLatin1String("Image Cube"))
             caption = classes("TmapCube.class and TmapCubeb.class");
@@ -37,7 +39,7 @@ std::optional<PreviewSettings> previewSettings(int effectId,
     case 11:
         return PreviewSettings{classes("Typewriter4.class and AppletSettings.class"), true, false};
     case 12: {
-        const bool rightToLeft = controlText("SmoothScroll", "Option1") == QLatin1String("1");
+        const bool rightToLeft = controlText(FormName::SmoothScroll, "Option1") == QLatin1String("1");
         return PreviewSettings{classes(rightToLeft ? "RTLScroll.class" : "LTRScroll.class"), true, false};
     }
     case 13:
@@ -63,14 +65,26 @@ std::optional<PreviewSettings> previewSettings(int effectId,
 
 QString formOfEffect(int effectId)
 {
-    static const char* const forms[] = {
-        "Anim",      "AnimWizard", "BBWizard",      "Clock",      "DynaBut",    "Fade",       "ImageEffects", "Password",
-        "StatusBar", "Swirly",     "Typer",         "SmoothScroll", "FadeMsg",  "NavTicker",  "Pulldown",     "Sound",
-        "ImageEffects2", "PopupAlert", "AnimButton", "ImgRollover", "Sound",    "ImageFade",  "Credits",      "Password",
+    static const QString* const forms[] = {
+        &FormName::Anim, &FormName::AnimWizard, &FormName::BBWizard, &FormName::Clock, &FormName::DynaBut, &FormName::Fade,
+        &FormName::ImageEffects, &FormName::Password, &FormName::StatusBar, &FormName::Swirly, &FormName::Typer, &FormName::SmoothScroll,
+        &FormName::FadeMsg, &FormName::NavTicker, &FormName::Pulldown, &FormName::Sound, &FormName::ImageEffects2, &FormName::PopupAlert,
+        &FormName::AnimButton, &FormName::ImgRollover, &FormName::Sound, &FormName::ImageFade, &FormName::Credits, &FormName::Password,
     };
     if (effectId < 1 || effectId > 24)
         return QString();
-    return QString::fromLatin1(forms[effectId - 1]);
+    return *forms[effectId - 1];
+}
+
+const QStringList& finishUnloads()
+{
+    static const QStringList forms = {
+        FormName::Anim,         FormName::AnimWizard, FormName::BBWizard,  FormName::Anim,      FormName::Clock,
+        FormName::DynaBut,      FormName::Fade,       FormName::Password,  FormName::ImageEffects,
+        FormName::StatusBar,    FormName::Swirly,     FormName::Typer,     FormName::SmoothScroll,
+        FormName::FadeMsg,      FormName::NavTicker,  FormName::Sound,     FormName::Pulldown,
+    };
+    return forms;
 }
 
 }  // namespace ql

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <optional>
 
@@ -22,5 +23,9 @@ std::optional<PreviewSettings> previewSettings(int effectId,
 
 // The form of an effect number, "" outside 1 to 24.
 QString formOfEffect(int effectId);
+
+// The forms that the Finish page's Return to Main Menu unloads; the others
+// stay loaded, hidden, with their values.
+const QStringList& finishUnloads();
 
 }  // namespace ql

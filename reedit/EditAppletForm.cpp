@@ -2,6 +2,8 @@
 
 #include "core/App.h"
 #include "core/ExtractParam.h"
+#include "core/FormNames.h"
+#include "core/Keyboard.h"
 #include "core/Widgets.h"
 
 #include <QFontDatabase>
@@ -28,19 +30,19 @@ struct Route {
 const QList<Route>& routes()
 {
     static const QList<Route> table = {
-        {{"Clock", "\"Cloc"}, "Clock"},
+        {{"Clock", "\"Cloc"}, FormName::Clock},
         {{"Anima", "\"Anim"}, EditAppletForm::WizardChoice},
-        {{"AnFad", "\"AnFa"}, "ImageEffects"},
-        {{"Lake.", "\"Lake"}, "ImageEffects"},
-        {{"rippl", "\"ripp"}, "ImageEffects"},
-        {{"TmapC", "\"Tmap"}, "ImageEffects"},
-        {{"Butto", "\"Butt"}, "DynaBut"},
-        {{"Navig", "\"Navi"}, "NavTicker"},
-        {{"FadeT", "\"Fade"}, "FadeMsg"},
-        {{"Color", "\"Colo"}, "Swirly"},
-        {{"Simpl", "\"Simp"}, "Sound"},
-        {{"Typew", "\"Type"}, "Typer"},
-        {{"RTLSc", "LTRSc", "\"RTLS", "\"LTRS"}, "SmoothScroll"},
+        {{"AnFad", "\"AnFa"}, FormName::ImageEffects},
+        {{"Lake.", "\"Lake"}, FormName::ImageEffects},
+        {{"rippl", "\"ripp"}, FormName::ImageEffects},
+        {{"TmapC", "\"Tmap"}, FormName::ImageEffects},
+        {{"Butto", "\"Butt"}, FormName::DynaBut},
+        {{"Navig", "\"Navi"}, FormName::NavTicker},
+        {{"FadeT", "\"Fade"}, FormName::FadeMsg},
+        {{"Color", "\"Colo"}, FormName::Swirly},
+        {{"Simpl", "\"Simp"}, FormName::Sound},
+        {{"Typew", "\"Type"}, FormName::Typer},
+        {{"RTLSc", "LTRSc", "\"RTLS", "\"LTRS"}, FormName::SmoothScroll},
     };
     return table;
 }
@@ -54,6 +56,16 @@ QString EditAppletForm::routeOf(const QString& prefix5)
             return route.form;
     }
     return QString();
+}
+
+QStringList EditAppletForm::routedForms()
+{
+    QStringList forms = {FormName::Anim, FormName::AnimWizard, FormName::BBWizard};
+    for (const Route& route : routes()) {
+        if (route.form != WizardChoice && !forms.contains(route.form))
+            forms << route.form;
+    }
+    return forms;
 }
 
 EditAppletForm::EditAppletForm(App& app)
@@ -72,6 +84,7 @@ EditAppletForm::EditAppletForm(App& app)
     Text1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     Text1->setMinimumSize(520, 240);
     auto* edit = commandButton(Picture1, "Command1", QStringLiteral("&Edit"));
+    edit->setDefault(true);
     auto* cancel = commandButton(Picture1, "Command2", QStringLiteral("&Cancel"));
     auto* help = helpButton(Picture1, "Command5");
     auto* row1 = new QHBoxLayout;
@@ -95,6 +108,7 @@ EditAppletForm::EditAppletForm(App& app)
     Option2 = named(new QRadioButton(QStringLiteral("Animation Wizard"), Picture2), "Option2");
     Option3 = named(new QRadioButton(QStringLiteral("Billboard Wizard"), Picture2), "Option3");
     auto* edit2 = commandButton(Picture2, "Command3", QStringLiteral("&Edit"));
+    edit2_ = edit2;
     auto* cancel2 = commandButton(Picture2, "Command4", QStringLiteral("&Cancel"));
     auto* row2 = new QHBoxLayout;
     row2->addStretch();
@@ -158,17 +172,21 @@ void EditAppletForm::showPage2()
 {
     Picture1->hide();
     Picture2->show();
+    // Enter edits with the wizard picked; the choice takes the focus.
+    edit2_->setDefault(true);
+    focusIfShown(Option1);
+    settleFocus(this);
 }
 
 void EditAppletForm::editWithWizard()
 {
     QString form;
     if (Option1->isChecked())
-        form = QStringLiteral("Anim");
+        form = FormName::Anim;
     else if (Option2->isChecked())
-        form = QStringLiteral("AnimWizard");
+        form = FormName::AnimWizard;
     else if (Option3->isChecked())
-        form = QStringLiteral("BBWizard");
+        form = FormName::BBWizard;
     if (!form.isEmpty())
         app().forms().show(form, false);
     unload();

@@ -2,6 +2,7 @@
 
 #include "core/Form.h"
 
+class QPushButton;
 class QRadioButton;
 class QWidget;
 
@@ -21,6 +22,8 @@ public:
     // the choice of animation wizard, "" for none.
     static QString routeOf(const QString& prefix5);
     static const QString WizardChoice;
+    // Every form that re-edit opens, the wizard choice's three included.
+    static QStringList routedForms();
 
 private:
     void edit();
@@ -33,6 +36,7 @@ private:
     QRadioButton* Option1;
     QRadioButton* Option2;
     QRadioButton* Option3;
+    QPushButton* edit2_;
 };
 
 }  // namespace ql

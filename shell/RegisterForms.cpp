@@ -1,4 +1,5 @@
 #include "core/App.h"
+#include "core/FormNames.h"
 #include "effects/text/SwirlyForm.h"
 #include "publish/MakeDirForm.h"
 #include "publish/PreviewForm.h"
@@ -10,12 +11,12 @@ namespace ql {
 
 void registerForms(FormRegistry& forms)
 {
-    forms.add(QStringLiteral("QLMain"), [](App& app) { return new MainWindow(app); });
-    forms.add(QStringLiteral("EditAppletForm"), [](App& app) { return new EditAppletForm(app); });
-    forms.add(QStringLiteral("Preview"), [](App& app) { return new PreviewForm(app); });
-    forms.add(QStringLiteral("MakeDir"), [](App& app) { return new MakeDirForm(app); });
-    forms.add(QStringLiteral("Options"), [](App& app) { return new OptionsForm(app); });
-    forms.add(QStringLiteral("Swirly"), [](App& app) { return new SwirlyForm(app); });
+    forms.add(FormName::Main, [](App& app) { return new MainWindow(app); });
+    forms.add(FormName::EditApplet, [](App& app) { return new EditAppletForm(app); });
+    forms.add(FormName::Preview, [](App& app) { return new PreviewForm(app); });
+    forms.add(FormName::MakeDir, [](App& app) { return new MakeDirForm(app); });
+    forms.add(FormName::Options, [](App& app) { return new OptionsForm(app); });
+    forms.add(FormName::Swirly, [](App& app) { return new SwirlyForm(app); });
 }
 
 }  // namespace ql

@@ -11,13 +11,20 @@ using namespace ql;
 namespace {
 
 // A form with a browse button, as the effects with media files have.
+const EffectDescription& probeDescription()
+{
+    static const EffectDescription d{.form = "BrowseProbe"};
+    return d;
+}
+
 class BrowseForm : public EffectForm {
 public:
     explicit BrowseForm(App& app)
-        : EffectForm(app, QStringLiteral("BrowseProbe"))
+        : EffectForm(app, probeDescription())
     {
         field = named(new QLineEdit(this), "Text1");
     }
+    void done() override {}
     bool browse(int slot)
     {
         return browseFile("All Files (*.*)|*.*|GIF and JPG Files (*.gif, *.jpg, *.jpeg)|*.gif;*.jpg;*.jpeg",

@@ -37,8 +37,9 @@ private slots:
     // The model alone.
     void emissionWithEveryField()
     {
-        swirly::Fields f{"Hello world", "Courier", "24", "255,0,0", "300", "60", "10", "40"};
-        QCOMPARE(swirly::emitCode(f),
+        SwirlyModel::Fields f{.text = "Hello world", .font = "Courier", .fontSize = "24", .backgroundColor = "255,0,0",
+                              .appletWidth = "300", .appletHeight = "60", .textLeft = "10", .textTop = "40"};
+        QCOMPARE(SwirlyModel::emitCode(f),
                  "<APPLET CODE=\"ColorSwirl.class\" HEIGHT=\"60\" WIDTH=\"300\">\r\n" + Wizard +
                      "<PARAM NAME=TEXT VALUE=\"Hello world\">\r\n"
                      "<PARAM NAME=FONT VALUE=\"Courier\">\r\n"
@@ -50,11 +51,11 @@ private slots:
     }
     void emptyOptionalFieldsEmitNoLineAndLocationsTheirDefaults()
     {
-        swirly::Fields f;
-        f.Text7 = "Hi";
-        f.Text10 = "200";
-        f.Text11 = "99";
-        QCOMPARE(swirly::emitCode(f),
+        SwirlyModel::Fields f;
+        f.text = "Hi";
+        f.appletWidth = "200";
+        f.appletHeight = "99";
+        QCOMPARE(SwirlyModel::emitCode(f),
                  "<APPLET CODE=\"ColorSwirl.class\" HEIGHT=\"99\" WIDTH=\"200\">\r\n" + Wizard +
                      "<PARAM NAME=TEXT VALUE=\"Hi\">\r\n"
                      "<PARAM NAME=XLOC VALUE=\"5\">\r\n"
@@ -63,36 +64,36 @@ private slots:
     }
     void heightThatIsNoNumberGivesYlocZero()
     {
-        swirly::Fields f;
-        f.Text7 = "Hi";
-        f.Text10 = "200";
-        f.Text11 = "tall";
-        QVERIFY(swirly::emitCode(f).contains("<PARAM NAME=YLOC VALUE=\"0\">\r\n"));
-        f.Text11 = "81px";
-        QVERIFY(swirly::emitCode(f).contains("<PARAM NAME=YLOC VALUE=\"40\">\r\n"));
+        SwirlyModel::Fields f;
+        f.text = "Hi";
+        f.appletWidth = "200";
+        f.appletHeight = "tall";
+        QVERIFY(SwirlyModel::emitCode(f).contains("<PARAM NAME=YLOC VALUE=\"0\">\r\n"));
+        f.appletHeight = "81px";
+        QVERIFY(SwirlyModel::emitCode(f).contains("<PARAM NAME=YLOC VALUE=\"40\">\r\n"));
     }
     void valuesAreCopiedUnescaped()
     {
-        swirly::Fields f{"a \"quoted\" <b>", "", "", "", "1", "2", "", ""};
-        QVERIFY(swirly::emitCode(f).contains("<PARAM NAME=TEXT VALUE=\"a \"quoted\" <b>\">\r\n"));
+        SwirlyModel::Fields f{.text = "a \"quoted\" <b>", .appletWidth = "1", .appletHeight = "2"};
+        QVERIFY(SwirlyModel::emitCode(f).contains("<PARAM NAME=TEXT VALUE=\"a \"quoted\" <b>\">\r\n"));
     }
     void validationOrder()
     {
-        swirly::Fields f;
-        auto r = swirly::validate(f);
+        SwirlyModel::Fields f;
+        auto r = SwirlyModel::validate(f);
         QVERIFY(r);
         QCOMPARE(r->text, QString("Applet width and height properties are required.  Please enter them."));
         QCOMPARE(r->style, 48);
         QCOMPARE(r->focus, QString("Text10"));
-        f.Text10 = "1";
-        QCOMPARE(swirly::validate(f)->style, 48);
-        f.Text11 = "1";
-        r = swirly::validate(f);
+        f.appletWidth = "1";
+        QCOMPARE(SwirlyModel::validate(f)->style, 48);
+        f.appletHeight = "1";
+        r = SwirlyModel::validate(f);
         QCOMPARE(r->text, QString("You must type something in the text box."));
         QCOMPARE(r->style, 0);
         QCOMPARE(r->focus, QString());
-        f.Text7 = " ";
-        QVERIFY(!swirly::validate(f));
+        f.text = " ";
+        QVERIFY(!SwirlyModel::validate(f));
     }
 
     // The form.
