@@ -3,8 +3,11 @@
 # when they are missing.
 set -euo pipefail
 
+# clang-14 with its runtime (AddressSanitizer, UndefinedBehaviorSanitizer,
+# libFuzzer) and llvm-14 (llvm-symbolizer, for readable sanitizer reports)
+# serve the sanitizer and fuzzing lane of scripts/sanitize.sh.
 packages=(cmake ninja-build g++ qt6-base-dev qt6-base-dev-tools libgl-dev qt6-qpa-plugins
-          fonts-dejavu-core xdg-utils chromium perl)
+          fonts-dejavu-core xdg-utils chromium perl clang-14 libclang-rt-14-dev llvm-14)
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

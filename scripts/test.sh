@@ -1,8 +1,12 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds and runs every test (headless).
+# Installs what is missing, builds and runs every test (headless), then the
+# sanitizer and fuzzing lane (scripts/sanitize.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
+start=$SECONDS
 scripts/install-deps.sh
 scripts/build.sh
-cd build
-QT_QPA_PLATFORM=offscreen ctest --output-on-failure
+(cd build && QT_QPA_PLATFORM=offscreen ctest --output-on-failure)
+echo "tests: $((SECONDS - start)) s"
+scripts/sanitize.sh
+echo "tests and sanitizer lane: $((SECONDS - start)) s"
