@@ -130,6 +130,31 @@ class ReEditScaleTest : public QObject {
     }
 
 private slots:
+    // The box keeps its CRLF text between changes, yet every reading of a
+    // key sees the text as it stands now: set, typed, replaced or undone.
+    void everyKeyReadsTheBoxAsItIsNow()
+    {
+        TestDriver d;
+        d.start();
+        d.click("QLMain", "mnuEditApplet");
+        auto* box = d.app().forms().findWidget("EditAppletForm")->findChild<CodeBox*>("Text1");
+        d.setText("EditAppletForm", "Text1", "<PARAM NAME=TEXT VALUE=\"one\">\r");
+        QCOMPARE(d.app().ExtractParam("TEXT VALUE="), QString("one"));
+        QCOMPARE(d.app().pastedCode(), QString("<PARAM NAME=TEXT VALUE=\"one\">\r\n"));
+        d.on("EditAppletForm", "Text1", "type_text", {{"text", "<PARAM NAME=SIZE VALUE=\"9\">\n"}});
+        QCOMPARE(d.app().ExtractParam("SIZE VALUE="), QString("9"));
+        QCOMPARE(d.app().pastedCode(),
+                 QString("<PARAM NAME=TEXT VALUE=\"one\">\r\n<PARAM NAME=SIZE VALUE=\"9\">\r\n"));
+        box->setSelection(24, 3);
+        QCOMPARE(box->selectedText(), QString("one"));
+        box->replaceSelection("two\rlines");
+        QCOMPARE(d.app().ExtractParam("TEXT VALUE="), QString("two\r\nlines"));
+        box->undo();
+        QCOMPARE(d.app().ExtractParam("TEXT VALUE="), QString("one"));
+        box->clear();
+        QCOMPARE(d.app().ExtractParam("TEXT VALUE="), QString());
+        QCOMPARE(d.app().pastedCode(), QString());
+    }
     void editGrowsLinearlyWithThePaste()
     {
         const QList<int> sizes = measuredSizes();
