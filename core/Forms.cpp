@@ -20,6 +20,8 @@ FormRegistry::~FormRegistry()
 
 void FormRegistry::add(const QString& name, Factory factory)
 {
+    if (!factories_.contains(name))
+        names_ << name;
     factories_.insert(name, std::move(factory));
 }
 
