@@ -161,7 +161,7 @@ private slots:
     void noEditableListBoxCompletesInlineOnAnyForm()
     {
         d.start();
-        const QStringList forms = d.app().forms().registeredNames();
+        const QStringList forms = d.app().forms().names();
         QVERIFY(forms.size() >= 6);
         for (const QString& name : forms) {
             d.app().forms().show(name, false);
