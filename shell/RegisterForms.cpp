@@ -1,6 +1,7 @@
 #include "core/App.h"
 #include "core/FormNames.h"
 #include "effects/page/ClockForm.h"
+#include "effects/page/FadeForm.h"
 #include "effects/text/SwirlyForm.h"
 #include "publish/MakeDirForm.h"
 #include "publish/PreviewForm.h"
@@ -19,6 +20,7 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::Options, [](App& app) { return new OptionsForm(app); });
     forms.add(FormName::Swirly, [](App& app) { return new SwirlyForm(app); });
     forms.add(FormName::Clock, [](App& app) { return new ClockForm(app); });
+    forms.add(FormName::Fade, [](App& app) { return new FadeForm(app); });
 }
 
 }  // namespace ql
