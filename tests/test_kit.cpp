@@ -24,7 +24,7 @@ namespace {
 // name but that are not built yet. It shrinks to nothing as the effects come.
 const QStringList NotBuiltYet = {
     FormName::Anim,       FormName::AnimWizard,    FormName::BBWizard,
-    FormName::DynaBut,    FormName::ImageEffects,  FormName::Password,
+    FormName::ImageEffects,  FormName::Password,
     FormName::StatusBar,  FormName::Typer,         FormName::SmoothScroll, FormName::FadeMsg,
     FormName::NavTicker,  FormName::Pulldown,      FormName::Sound,        FormName::ImageEffects2,
     FormName::PopupAlert, FormName::AnimButton,    FormName::ImgRollover,  FormName::ImageFade,
