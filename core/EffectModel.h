@@ -58,5 +58,8 @@ struct HandOver {
 // The lists that the applet text forms offer.
 const QStringList& FontList();
 const QStringList& FontSizeList();
+// The colour list of the applet forms: a name, a dash and the three numbers
+// that colorListValue() reads from the row.
+const QStringList& ColorList();
 
 }  // namespace ql

@@ -85,4 +85,20 @@ QString colorTriple(quint32 color)
     return QStringLiteral("%1,%2,%3").arg(red).arg(green).arg(blue);
 }
 
+QString trimBlanks(const QString& text)
+{
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    while (start < end && text[start] == QLatin1Char(' '))
+        ++start;
+    while (end > start && text[end - 1] == QLatin1Char(' '))
+        --end;
+    return text.mid(start, end - start);
+}
+
+QString colorListValue(const QString& field)
+{
+    return trimBlanks(field.right(11));
+}
+
 }  // namespace ql

@@ -29,4 +29,13 @@ QString wholeNumberText(double value);
 // A colour value (red + green * 256 + blue * 65536) as "r,g,b".
 QString colorTriple(quint32 color);
 
+// A text without its leading and trailing blanks (only blanks: tabs and
+// line breaks stay).
+QString trimBlanks(const QString& text);
+
+// The colour of a field that offers the colour list: its last 11
+// characters, trimmed of blanks, so that "Blue  -                0,0,255"
+// reads "0,0,255" and a typed "10,20,30" stays as it is.
+QString colorListValue(const QString& field);
+
 }  // namespace ql

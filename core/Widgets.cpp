@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <QTextDocument>
+#include <QHash>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -102,17 +104,38 @@ void ColorSwatch::paintColor(quint32 color)
 
 // ---- CodeBox
 
+namespace {
+
+// The CRLF text of each code box, kept until its document changes: re-edit
+// reads the pasted code once per key, and a pasted text may be large.
+QHash<const CodeBox*, QString>& crlfTexts()
+{
+    static QHash<const CodeBox*, QString> texts;
+    return texts;
+}
+
+}  // namespace
+
 CodeBox::CodeBox(QWidget* parent)
     : QPlainTextEdit(parent)
 {
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setTabChangesFocus(true);
+    const CodeBox* key = this;
+    connect(document(), &QTextDocument::contentsChanged, this, [key] { crlfTexts().remove(key); });
+    connect(this, &QObject::destroyed, [key] { crlfTexts().remove(key); });
 }
 
 QString CodeBox::text() const
 {
+    QHash<const CodeBox*, QString>& texts = crlfTexts();
+    const auto kept = texts.constFind(this);
+    if (kept != texts.constEnd())
+        return *kept;
     QString inner = toPlainText();
-    return inner.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+    inner.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+    texts.insert(this, inner);
+    return inner;
 }
 
 void CodeBox::setText(const QString& text)

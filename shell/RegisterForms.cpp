@@ -1,5 +1,8 @@
 #include "core/App.h"
 #include "core/FormNames.h"
+#include "effects/image/DynaButForm.h"
+#include "effects/page/ClockForm.h"
+#include "effects/page/FadeForm.h"
 #include "effects/text/SwirlyForm.h"
 #include "publish/MakeDirForm.h"
 #include "publish/PreviewForm.h"
@@ -17,6 +20,9 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::MakeDir, [](App& app) { return new MakeDirForm(app); });
     forms.add(FormName::Options, [](App& app) { return new OptionsForm(app); });
     forms.add(FormName::Swirly, [](App& app) { return new SwirlyForm(app); });
+    forms.add(FormName::Clock, [](App& app) { return new ClockForm(app); });
+    forms.add(FormName::Fade, [](App& app) { return new FadeForm(app); });
+    forms.add(FormName::DynaBut, [](App& app) { return new DynaButForm(app); });
 }
 
 }  // namespace ql
