@@ -1,5 +1,7 @@
 #include "core/App.h"
 #include "core/FormNames.h"
+#include "effects/page/CreditsForm.h"
+#include "effects/page/PopupAlertForm.h"
 #include "effects/text/SwirlyForm.h"
 #include "publish/MakeDirForm.h"
 #include "publish/PreviewForm.h"
@@ -17,6 +19,8 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::MakeDir, [](App& app) { return new MakeDirForm(app); });
     forms.add(FormName::Options, [](App& app) { return new OptionsForm(app); });
     forms.add(FormName::Swirly, [](App& app) { return new SwirlyForm(app); });
+    forms.add(FormName::PopupAlert, [](App& app) { return new PopupAlertForm(app); });
+    forms.add(FormName::Credits, [](App& app) { return new CreditsForm(app); });
 }
 
 }  // namespace ql
