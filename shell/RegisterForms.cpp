@@ -2,6 +2,7 @@
 #include "core/FormNames.h"
 #include "effects/page/CreditsForm.h"
 #include "effects/page/PopupAlertForm.h"
+#include "effects/page/PulldownForm.h"
 #include "effects/text/SwirlyForm.h"
 #include "publish/MakeDirForm.h"
 #include "publish/PreviewForm.h"
@@ -21,6 +22,8 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::Swirly, [](App& app) { return new SwirlyForm(app); });
     forms.add(FormName::PopupAlert, [](App& app) { return new PopupAlertForm(app); });
     forms.add(FormName::Credits, [](App& app) { return new CreditsForm(app); });
+    forms.add(FormName::Pulldown, [](App& app) { return new PulldownForm(app); });
+    forms.add(FormName::PulldownURL, [](App& app) { return new PulldownURLForm(app); });
 }
 
 }  // namespace ql
