@@ -1,6 +1,7 @@
 #include "core/App.h"
 #include "core/FormNames.h"
 #include "effects/page/CreditsForm.h"
+#include "effects/page/PasswordForm.h"
 #include "effects/page/PopupAlertForm.h"
 #include "effects/page/PulldownForm.h"
 #include "effects/text/SwirlyForm.h"
@@ -24,6 +25,7 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::Credits, [](App& app) { return new CreditsForm(app); });
     forms.add(FormName::Pulldown, [](App& app) { return new PulldownForm(app); });
     forms.add(FormName::PulldownURL, [](App& app) { return new PulldownURLForm(app); });
+    forms.add(FormName::Password, [](App& app) { return new PasswordForm(app); });
 }
 
 }  // namespace ql
