@@ -4,6 +4,7 @@
 #include "effects/page/PasswordForm.h"
 #include "effects/page/PopupAlertForm.h"
 #include "effects/page/PulldownForm.h"
+#include "effects/page/SoundForm.h"
 #include "effects/text/SwirlyForm.h"
 #include "publish/MakeDirForm.h"
 #include "publish/PreviewForm.h"
@@ -26,6 +27,7 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::Pulldown, [](App& app) { return new PulldownForm(app); });
     forms.add(FormName::PulldownURL, [](App& app) { return new PulldownURLForm(app); });
     forms.add(FormName::Password, [](App& app) { return new PasswordForm(app); });
+    forms.add(FormName::Sound, [](App& app) { return new SoundForm(app); });
 }
 
 }  // namespace ql

@@ -27,7 +27,6 @@ const QStringList NotBuiltYet = {
     FormName::DynaBut,       FormName::Fade,         FormName::ImageEffects, FormName::StatusBar,
     FormName::Typer,         FormName::SmoothScroll, FormName::FadeMsg,      FormName::NavTicker,
     FormName::ImageEffects2, FormName::AnimButton,   FormName::ImgRollover,  FormName::ImageFade,
-    FormName::Sound,
     FormName::About,
 };
 
