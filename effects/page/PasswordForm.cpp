@@ -3,7 +3,6 @@
 #include "core/App.h"
 #include "core/Constants.h"
 #include "core/FormBuilder.h"
-#include "core/StepWizard.h"
 #include "core/Widgets.h"
 #include "core/WrapOption.h"
 
@@ -73,6 +72,21 @@ PasswordForm::PasswordForm(App& app)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(pages_);
     showPage(SchemePage, nullptr, findChild<QPushButton*>("Command5"));
+    // As wide as the examples' room, as high as the tallest page needs at
+    // that width.
+    // The stack does not pass the height-for-width of its wrapped texts on,
+    // so its room is worked out page by page here.
+    int width = fontMetrics().averageCharWidth() * 80;
+    for (int i = 0; i < pages_->count(); ++i)
+        width = qMax(width, pages_->widget(i)->minimumSizeHint().width());
+    int height = 0;
+    for (int i = 0; i < pages_->count(); ++i) {
+        QLayout* pageLayout = pages_->widget(i)->layout();
+        height = qMax(height, pageLayout->hasHeightForWidth() ? pageLayout->totalHeightForWidth(width)
+                                                               : pageLayout->totalSizeHint().height());
+    }
+    pages_->setMinimumSize(width, height);
+    resize(layout->totalMinimumSize());
 }
 
 QWidget* PasswordForm::buildSchemePage()
@@ -146,20 +160,21 @@ QWidget* PasswordForm::buildJavaScriptPage()
         w->setSizePolicy(keep);
         w->hide();
     }
-    Label2 = named(new StableLabel, QStringLiteral("Label2"));
-    Label2->reserve(targetCaptionOpening());
-    Label2->reserve(targetCaptionOne());
-    Label2->reserve(targetCaptionMany());
-    Label2->setText(targetCaptionOpening());
+    Label2 = named(new QLabel(targetCaptionOpening()), QStringLiteral("Label2"));
     b.wide(Label2);
     QLineEdit* target = named(new QLineEdit, QStringLiteral("Text2"));
     b.wide(target);
     Label2->setBuddy(target);
-    Label3 = named(new StableLabel, QStringLiteral("Label3"));
-    Label3->reserve(exampleOpening());
-    Label3->reserve(exampleOne());
-    Label3->reserve(exampleMany());
-    Label3->setText(exampleOpening());
+    Label3 = named(new QLabel(exampleOpening()), QStringLiteral("Label3"));
+    Label3->setWordWrap(true);
+    // Room for the longest of the examples, so that the page does not move
+    // as the options change them.
+    const QRect room(0, 0, fontMetrics().averageCharWidth() * 70, 1000);
+    int height = 0;
+    for (const QString& text : {exampleOpening(), exampleOne(), exampleMany()})
+        height = qMax(height, fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height());
+    Label3->setMinimumHeight(height + 4);
+    Label3->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     b.wide(Label3);
     b.stretch();
     b.wide(commandRow("Command2", "Command1", "Command4"));

@@ -11,7 +11,6 @@ class QRadioButton;
 namespace ql {
 
 class PageStack;
-class StableLabel;
 
 // The Password Protection form: a scheme page, then the JavaScript page or
 // the CGI page, one way forward.
@@ -44,8 +43,8 @@ private:
     QRadioButton* Option2;
     QLabel* Label1;
     QLineEdit* Text1;
-    StableLabel* Label2;
-    StableLabel* Label3;
+    QLabel* Label2;
+    QLabel* Label3;
 };
 
 }  // namespace ql

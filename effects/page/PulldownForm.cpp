@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace ql {
@@ -39,7 +40,15 @@ PulldownForm::PulldownForm(App& app)
     for (QListWidget* list : {List1, List2}) {
         list->setMinimumHeight(listHeight);
         list->setMinimumWidth(List1->fontMetrics().averageCharWidth() * 24);
+        // Rows stand side by side: neither list scrolls sideways, a long
+        // text is cut short with an ellipsis instead.
+        list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        list->setTextElideMode(Qt::ElideRight);
+        list->setUniformItemSizes(true);
     }
+    // The two lists scroll together.
+    connect(List1->verticalScrollBar(), &QScrollBar::valueChanged, List2->verticalScrollBar(), &QScrollBar::setValue);
+    connect(List2->verticalScrollBar(), &QScrollBar::valueChanged, List1->verticalScrollBar(), &QScrollBar::setValue);
     auto* buttons = new QVBoxLayout;
     QPushButton* insert = commandButton(content, QStringLiteral("Command1"), QStringLiteral("&Insert Menu item..."));
     QPushButton* separator = commandButton(content, QStringLiteral("Command3"), QStringLiteral("Insert &separator"));

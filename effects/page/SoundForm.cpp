@@ -20,6 +20,13 @@ enum Page { FormatPage = 0, WavPage = 1, AuPage = 2 };
 
 const QString BrowseTip = QStringLiteral("Browse for sound...");
 
+// A sound field wide enough for a file name, with its browse tip.
+void dress(const FormBuilder::BrowseField& browse)
+{
+    browse.button->setToolTip(BrowseTip);
+    browse.field->setMinimumWidth(browse.field->fontMetrics().averageCharWidth() * 26);
+}
+
 }  // namespace
 
 SoundForm::SoundForm(App& app)
@@ -63,11 +70,9 @@ QWidget* SoundForm::buildWavPage()
     auto* page = named(new QWidget, arrayName("Picture2", 1));
     FormBuilder b(page, 1, this);
     FormBuilder wav = b.frame("Frame3", "Sound Settings - WAV sound file");
-    wav.browse("Text4", "Command6", "Label4", "Play this sound file when Web page loads:", SoundModel::WavFilter, 0)
-        .button->setToolTip(BrowseTip);
+    dress(wav.browse("Text4", "Command6", "Label4", "Play this sound file when Web page loads:", SoundModel::WavFilter, 0));
     wav.check("Check2", "Loop the sound (only available in Internet Explorer)");
-    wav.browse("Text3", "Command13", "Label5", "Play this sound file when Web page exits:", SoundModel::WavFilter, 1)
-        .button->setToolTip(BrowseTip);
+    dress(wav.browse("Text3", "Command13", "Label5", "Play this sound file when Web page exits:", SoundModel::WavFilter, 1));
     b.stretch();
     b.wide(commandRow("Command12", "Command11", "Command10"));
     return page;
@@ -78,12 +83,10 @@ QWidget* SoundForm::buildAuPage()
     auto* page = named(new QWidget, arrayName("Picture2", 2));
     FormBuilder b(page, 1, this);
     FormBuilder au = b.frame("Frame1", "Sound Settings - AU sound files");
-    au.browse("Text1", "Command8", "Label1", "Play this sound file when the Web page loads:", SoundModel::AuFilter, 0)
-        .button->setToolTip(BrowseTip);
+    dress(au.browse("Text1", "Command8", "Label1", "Play this sound file when the Web page loads:", SoundModel::AuFilter, 0));
     au.check("Check1", "Loop the sound");
-    au.browse("Text2", "Command5", "Label2", "Play this sound file when the user exits the Web page:",
-              SoundModel::AuFilter, 1)
-        .button->setToolTip(BrowseTip);
+    dress(au.browse("Text2", "Command5", "Label2", "Play this sound file when the user exits the Web page:",
+              SoundModel::AuFilter, 1));
     b.stretch();
     b.wide(commandRow("Command2", "Command3", "Command4"));
     return page;
