@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -604,6 +606,49 @@ private slots:
         QVERIFY(d.on("Password", "Option2", "checked").toBool());
         QCOMPARE(d.text("Password", "Text1"), QString(" "));
         QCOMPARE(d.text("Password", "Text2"), QString("in.html"));
+    }
+    void damagedScriptInTheFillRoutineNeverHangsOrCrashes()
+    {
+        const QString good = jsCode(onePassword("pw", "in.html"));
+        QRandomGenerator random(7511);
+        d.start({{"program_folder", folder.path()}});
+        for (int round = 0; round < 100; ++round) {
+            QString code = good;
+            const int damages = 1 + int(random.bounded(8));
+            for (int i = 0; i < damages && !code.isEmpty(); ++i) {
+                const int at = int(random.bounded(code.size()));
+                switch (random.bounded(4)) {
+                case 0:
+                    code.remove(at, 1 + int(random.bounded(12)));
+                    break;
+                case 1:
+                    code.insert(at, QChar(u"\"=<> \r\n\t'x"[random.bounded(9)]));
+                    break;
+                case 2:
+                    code.insert(at, QString(int(random.bounded(200)), QChar('"')));
+                    break;
+                default:
+                    code.truncate(at);
+                    break;
+                }
+            }
+            d.click("QLMain", "mnuEditApplet");
+            d.setText("EditAppletForm", "Text1", code);
+            d.app().session().ReEditMode = 1;
+            QElapsedTimer clock;
+            clock.start();
+            d.click("QLMain", "Command7");
+            QVERIFY2(clock.elapsed() < 1000, qPrintable(code));
+            QVERIFY(d.shown("Password"));
+            QCOMPARE(d.session().value("ReEditMode").toInt(), 0);
+            d.click("Password", "Option3(0)");
+            d.click("Password", "Command5");
+            d.click("Password", "Command2");
+            QVERIFY(d.shown("Preview"));
+            d.click("Preview", "mnuReturn");
+            d.app().forms().unload("Password");
+            d.app().forms().unload("EditAppletForm");
+        }
     }
     void cancelAndHelp()
     {
