@@ -54,8 +54,10 @@ void EffectForm::HandOverToPreview(const HandOver& h)
 {
     EffectSession& session = app().session();
     session.GeneratedCode = h.code;
-    app().msgBox(h.fileLines.isEmpty() ? NoFilesMessage() : RequiredFilesMessage(h.fileLines),
-                 MsgStyle::Exclamation);
+    const QString message = !h.message.isEmpty()     ? h.message
+                            : h.fileLines.isEmpty() ? NoFilesMessage()
+                                                    : RequiredFilesMessage(h.fileLines);
+    app().msgBox(message, MsgStyle::Exclamation);
     for (int i = 0; i < h.classes.size(); ++i)
         session.RequiredClasses.set(i, h.classes[i]);
     for (auto it = h.files.begin(); it != h.files.end(); ++it)

@@ -43,6 +43,8 @@ struct HandOver {
     QStringList fileLines;
     // RequiredFiles slots the effect names at Done (slot, bare name).
     QMap<int, QString> files;
+    // The box text where the effect words it itself; "" for the shared one.
+    QString message;
 
     // The hand-over of a description with the code it emitted.
     static HandOver of(const EffectDescription& description, const QString& code)
@@ -51,7 +53,8 @@ struct HandOver {
                         .effectId = description.effectId,
                         .classes = description.classes,
                         .fileLines = description.fileLines,
-                        .files = {}};
+                        .files = {},
+                        .message = {}};
     }
 };
 

@@ -3,6 +3,11 @@
 #include "effects/image/DynaButForm.h"
 #include "effects/page/ClockForm.h"
 #include "effects/page/FadeForm.h"
+#include "effects/page/CreditsForm.h"
+#include "effects/page/PasswordForm.h"
+#include "effects/page/PopupAlertForm.h"
+#include "effects/page/PulldownForm.h"
+#include "effects/page/SoundForm.h"
 #include "effects/text/SwirlyForm.h"
 #include "publish/MakeDirForm.h"
 #include "publish/PreviewForm.h"
@@ -23,6 +28,12 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::Clock, [](App& app) { return new ClockForm(app); });
     forms.add(FormName::Fade, [](App& app) { return new FadeForm(app); });
     forms.add(FormName::DynaBut, [](App& app) { return new DynaButForm(app); });
+    forms.add(FormName::PopupAlert, [](App& app) { return new PopupAlertForm(app); });
+    forms.add(FormName::Credits, [](App& app) { return new CreditsForm(app); });
+    forms.add(FormName::Pulldown, [](App& app) { return new PulldownForm(app); });
+    forms.add(FormName::PulldownURL, [](App& app) { return new PulldownURLForm(app); });
+    forms.add(FormName::Password, [](App& app) { return new PasswordForm(app); });
+    forms.add(FormName::Sound, [](App& app) { return new SoundForm(app); });
 }
 
 }  // namespace ql
