@@ -23,12 +23,12 @@ namespace {
 // The forms that the catalogue, the menus, the Preview wizard and re-edit
 // name but that are not built yet. It shrinks to nothing as the effects come.
 const QStringList NotBuiltYet = {
-    FormName::Anim,       FormName::AnimWizard,    FormName::BBWizard,     FormName::Clock,
-    FormName::DynaBut,    FormName::Fade,          FormName::ImageEffects, FormName::Password,
-    FormName::StatusBar,  FormName::Typer,         FormName::SmoothScroll, FormName::FadeMsg,
-    FormName::NavTicker,  FormName::Pulldown,      FormName::Sound,        FormName::ImageEffects2,
-    FormName::PopupAlert, FormName::AnimButton,    FormName::ImgRollover,  FormName::ImageFade,
-    FormName::Credits,    FormName::About,
+    FormName::Anim,          FormName::AnimWizard,    FormName::BBWizard,      FormName::Clock,
+    FormName::DynaBut,       FormName::Fade,          FormName::ImageEffects,  FormName::Password,
+    FormName::Typer,         FormName::SmoothScroll,  FormName::FadeMsg,       FormName::NavTicker,
+    FormName::Pulldown,      FormName::Sound,         FormName::ImageEffects2, FormName::PopupAlert,
+    FormName::AnimButton,    FormName::ImgRollover,   FormName::ImageFade,     FormName::Credits,
+    FormName::About,
 };
 
 // Every form name that another part of the program names.

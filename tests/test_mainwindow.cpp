@@ -84,8 +84,9 @@ private slots:
     }
     void buttonsOfEffectsStillToComeOpenNothing()
     {
+        const QStringList built = d.app().forms().registeredNames();
         for (const CatalogueEntry& entry : catalogue()) {
-            if (entry.form == "Swirly")
+            if (built.contains(entry.form))
                 continue;
             d.click("QLMain", entry.button);
             QVERIFY(!d.loaded(entry.form));
@@ -169,9 +170,10 @@ private slots:
     }
     void effectMenuEntriesOfEffectsStillToComeOpenNothing()
     {
+        const QStringList built = d.app().forms().registeredNames();
         for (const EffectSubmenu& sub : effectMenu()) {
             for (const EffectMenuEntry& entry : sub.entries) {
-                if (entry.form == "Swirly")
+                if (built.contains(entry.form))
                     continue;
                 d.click("QLMain", entry.control);
                 QVERIFY(!d.loaded(entry.form));
