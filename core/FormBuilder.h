@@ -13,6 +13,7 @@ class QLayout;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QSlider;
 class QToolButton;
 class QWidget;
 
@@ -56,8 +57,10 @@ public:
         QWidget* field;
         ColorSwatch* swatch;
     };
+    // `format` writes a picked colour otherwise than "r,g,b" (one number, say).
     ColorField color(const QString& fieldName, const QString& swatchName, const QString& labelName,
-                     const QString& caption, bool comboField = false, int chars = 0);
+                     const QString& caption, bool comboField = false, int chars = 0,
+                     const std::function<QString(quint32)>& format = nullptr);
     // A field for a file with its browse button beside it: the field takes
     // the bare name and the file arrays the file, in `slot`.
     struct BrowseField {
@@ -72,6 +75,20 @@ public:
     // A caption across the row with its field across the row below it.
     QLineEdit* wideText(const QString& name, const QString& labelName, const QString& caption);
     QWidget* wideField(const QString& labelName, const QString& caption, QWidget* control);
+
+    // A caption and a horizontal slider with ticks, with the words of its
+    // low and high ends beside it ("Slow" ... "Fast").
+    struct SliderSteps {
+        int minimum = 1;
+        int maximum = 10;
+        int small = 1;
+        int large = 4;
+        int tick = 1;
+        int value = 1;
+    };
+    QSlider* slider(const QString& name, const QString& labelName, const QString& caption,
+                    const SliderSteps& steps, const QString& lowName, const QString& lowText,
+                    const QString& highName, const QString& highText);
 
     QCheckBox* check(const QString& name, const QString& caption);
     QRadioButton* option(const QString& name, const QString& caption);

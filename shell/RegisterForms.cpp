@@ -1,5 +1,6 @@
 #include "core/App.h"
 #include "core/FormNames.h"
+#include "effects/text/SmoothScrollForm.h"
 #include "effects/text/StatusBarForm.h"
 #include "effects/text/SwirlyForm.h"
 #include "publish/MakeDirForm.h"
@@ -19,6 +20,7 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::Options, [](App& app) { return new OptionsForm(app); });
     forms.add(FormName::Swirly, [](App& app) { return new SwirlyForm(app); });
     forms.add(FormName::StatusBar, [](App& app) { return new StatusBarForm(app); });
+    forms.add(FormName::SmoothScroll, [](App& app) { return new SmoothScrollForm(app); });
 }
 
 }  // namespace ql
