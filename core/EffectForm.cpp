@@ -60,6 +60,8 @@ void EffectForm::HandOverToPreview(const HandOver& h)
         session.RequiredClasses.set(i, h.classes[i]);
     for (auto it = h.files.begin(); it != h.files.end(); ++it)
         session.RequiredFiles.set(it.key(), it.value());
+    for (int slot : h.emptiedPaths)
+        session.RequiredPaths.set(slot, QString());
     session.EffectId = h.effectId;
     hide();
     app().forms().show(QStringLiteral("Preview"), true);

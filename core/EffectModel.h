@@ -43,6 +43,9 @@ struct HandOver {
     QStringList fileLines;
     // RequiredFiles slots the effect names at Done (slot, bare name).
     QMap<int, QString> files;
+    // RequiredPaths slots emptied at Done: a file the effect no longer names
+    // leaves no source path behind.
+    QList<int> emptiedPaths;
 
     // The hand-over of a description with the code it emitted.
     static HandOver of(const EffectDescription& description, const QString& code)
@@ -51,7 +54,8 @@ struct HandOver {
                         .effectId = description.effectId,
                         .classes = description.classes,
                         .fileLines = description.fileLines,
-                        .files = {}};
+                        .files = {},
+                        .emptiedPaths = {}};
     }
 };
 

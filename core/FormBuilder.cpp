@@ -1,5 +1,6 @@
 #include "core/FormBuilder.h"
 
+#include "core/App.h"
 #include "core/EffectForm.h"
 #include "core/Widgets.h"
 
@@ -173,7 +174,8 @@ FormBuilder::ColorField FormBuilder::color(const QString& fieldName, const QStri
 FormBuilder::BrowseField FormBuilder::browse(const QString& fieldName, const QString& buttonName,
                                              const QString& labelName, const QString& captionText,
                                              const QString& filter, int slot, const QString& title,
-                                             const QString& buttonCaption)
+                                             const QString& buttonCaption,
+                                             const std::function<void(const QString&)>& picked)
 {
     QLabel* label = captionText.isEmpty() ? nullptr : makeCaption(labelName, captionText);
     auto* field = named(new QLineEdit(area_), fieldName);
@@ -189,8 +191,11 @@ FormBuilder::BrowseField FormBuilder::browse(const QString& fieldName, const QSt
     placeLayout(label, row);
     if (form_) {
         EffectForm* form = form_;
-        QObject::connect(browseButton, &QPushButton::clicked, form, [form, field, filter, slot, title] {
-            form->browseFile(filter, title, slot, [field](const QString& name) { field->setText(name); });
+        QObject::connect(browseButton, &QPushButton::clicked, form, [form, field, filter, slot, title, picked] {
+            const bool chosen =
+                form->browseFile(filter, title, slot, [field](const QString& name) { field->setText(name); });
+            if (chosen && picked)
+                picked(form->app().session().RequiredPaths.at(slot));
         });
     }
     return {field, browseButton};

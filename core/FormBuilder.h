@@ -62,7 +62,8 @@ public:
                      const QString& caption, bool comboField = false, int chars = 0,
                      const std::function<QString(quint32)>& format = nullptr);
     // A field for a file with its browse button beside it: the field takes
-    // the bare name and the file arrays the file, in `slot`.
+    // the bare name and the file arrays the file, in `slot`; `picked`, where
+    // given, then takes the full path of the file.
     struct BrowseField {
         QLineEdit* field;
         QPushButton* button;
@@ -70,7 +71,8 @@ public:
     BrowseField browse(const QString& fieldName, const QString& buttonName, const QString& labelName,
                        const QString& caption, const QString& filter, int slot,
                        const QString& title = QStringLiteral("Browse..."),
-                       const QString& buttonCaption = QStringLiteral("Browse..."));
+                       const QString& buttonCaption = QStringLiteral("Browse..."),
+                       const std::function<void(const QString&)>& picked = nullptr);
 
     // A caption across the row with its field across the row below it.
     QLineEdit* wideText(const QString& name, const QString& labelName, const QString& caption);

@@ -3,6 +3,7 @@
 #include "effects/text/SmoothScrollForm.h"
 #include "effects/text/StatusBarForm.h"
 #include "effects/text/SwirlyForm.h"
+#include "effects/text/TyperForm.h"
 #include "publish/MakeDirForm.h"
 #include "publish/PreviewForm.h"
 #include "reedit/EditAppletForm.h"
@@ -21,6 +22,7 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::Swirly, [](App& app) { return new SwirlyForm(app); });
     forms.add(FormName::StatusBar, [](App& app) { return new StatusBarForm(app); });
     forms.add(FormName::SmoothScroll, [](App& app) { return new SmoothScrollForm(app); });
+    forms.add(FormName::Typer, [](App& app) { return new TyperForm(app); });
 }
 
 }  // namespace ql
