@@ -25,9 +25,9 @@ namespace {
 const QStringList NotBuiltYet = {
     FormName::Anim,          FormName::AnimWizard,    FormName::BBWizard,      FormName::Clock,
     FormName::DynaBut,       FormName::Fade,          FormName::ImageEffects,  FormName::Password,
-    FormName::FadeMsg,       FormName::NavTicker,     FormName::Pulldown,      FormName::Sound,
-    FormName::ImageEffects2, FormName::PopupAlert,    FormName::AnimButton,    FormName::ImgRollover,
-    FormName::ImageFade,     FormName::Credits,       FormName::About,
+    FormName::FadeMsg,       FormName::Pulldown,      FormName::Sound,         FormName::ImageEffects2,
+    FormName::PopupAlert,    FormName::AnimButton,    FormName::ImgRollover,   FormName::ImageFade,
+    FormName::Credits,       FormName::About,
 };
 
 // Every form name that another part of the program names.
