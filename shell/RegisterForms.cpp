@@ -1,5 +1,6 @@
 #include "core/App.h"
 #include "core/FormNames.h"
+#include "effects/text/FadeMsgForm.h"
 #include "effects/text/NavTickerForm.h"
 #include "effects/text/SmoothScrollForm.h"
 #include "effects/text/StatusBarForm.h"
@@ -25,6 +26,7 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::SmoothScroll, [](App& app) { return new SmoothScrollForm(app); });
     forms.add(FormName::Typer, [](App& app) { return new TyperForm(app); });
     forms.add(FormName::NavTicker, [](App& app) { return new NavTickerForm(app); });
+    forms.add(FormName::FadeMsg, [](App& app) { return new FadeMsgForm(app); });
 }
 
 }  // namespace ql

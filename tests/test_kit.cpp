@@ -23,11 +23,11 @@ namespace {
 // The forms that the catalogue, the menus, the Preview wizard and re-edit
 // name but that are not built yet. It shrinks to nothing as the effects come.
 const QStringList NotBuiltYet = {
-    FormName::Anim,          FormName::AnimWizard,    FormName::BBWizard,      FormName::Clock,
-    FormName::DynaBut,       FormName::Fade,          FormName::ImageEffects,  FormName::Password,
-    FormName::FadeMsg,       FormName::Pulldown,      FormName::Sound,         FormName::ImageEffects2,
-    FormName::PopupAlert,    FormName::AnimButton,    FormName::ImgRollover,   FormName::ImageFade,
-    FormName::Credits,       FormName::About,
+    FormName::Anim,       FormName::AnimWizard,    FormName::BBWizard,     FormName::Clock,
+    FormName::DynaBut,    FormName::Fade,          FormName::ImageEffects, FormName::Password,
+    FormName::Pulldown,   FormName::Sound,         FormName::ImageEffects2, FormName::PopupAlert,
+    FormName::AnimButton, FormName::ImgRollover,   FormName::ImageFade,    FormName::Credits,
+    FormName::About,
 };
 
 // Every form name that another part of the program names.
