@@ -56,7 +56,7 @@ NavTickerForm::NavTickerForm(App& app)
     FormBuilder two(page2, 1, this);
     two.caption("Label10", "Example:");
     auto* example = named(new QLabel, "Picture3");
-    example->setPixmap(effectPicture(formName(), QString(), QSize(264, 96), devicePixelRatioF()));
+    example->setPixmap(effectPicture(formName(), windowTitle(), QSize(220, 160), devicePixelRatioF()));
     example->setAlignment(Qt::AlignCenter);
     two.wide(example);
     FormBuilder message = two.frame("Frame1", "Ticker Text and Link Settings", 1);

@@ -29,8 +29,8 @@ SmoothScrollForm::SmoothScrollForm(App& app)
     FormBuilder scrolling = b.frame("Frame1", "Scrolling Properties", 2);
     scrolling.option("Option1", "Right to Left");
     scrolling.option("Option2", "Left to Right")->setChecked(true);
-    scrolling.nextRow();
-    scrolling.slider("Slider1", "Label7", "Scrolling speed:",
+    FormBuilder speed = scrolling.area(1);
+    speed.slider("Slider1", "Label7", "Scrolling speed:",
                      {.minimum = 1, .maximum = 40, .small = 1, .large = 4, .tick = 3, .value = 10}, "Label8", "Slow",
                      "Label9", "Fast");
 

@@ -24,7 +24,7 @@ StatusBarForm::StatusBarForm(App& app)
     FormBuilder example = b.frame("Frame1", "Example");
     auto* picture = named(new QLabel, "Picture1");
     const qreal ratio = devicePixelRatioF();
-    picture->setPixmap(effectPicture(formName(), QString(), QSize(264, 144), ratio));
+    picture->setPixmap(effectPicture(formName(), windowTitle(), QSize(264, 176), ratio));
     picture->setAlignment(Qt::AlignCenter);
     example.wide(picture);
     b.stretch();

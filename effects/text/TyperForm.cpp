@@ -108,7 +108,16 @@ TyperForm::TyperForm(App& app)
     layout->addWidget(wizard_->body(), 1);
     layout->addLayout(wizard_->navigationRow(help, cancel));
 
+    // The window keeps one size whichever way the text comes: it is measured
+    // with the file's fields and its preview shown, and with the text box.
+    preview->setMaximumHeight(preview->fontMetrics().lineSpacing() * 7 + 12);
+    fileOptionChanged(true);
+    preview->setVisible(true);
+    const QSize withFile = sizeHint();
     fileOptionChanged(false);
+    const QFontMetrics metrics = fontMetrics();
+    setMinimumSize(sizeHint().expandedTo(withFile).expandedTo(
+        QSize(metrics.averageCharWidth() * 72, metrics.lineSpacing() * 24)));
     checkWhileTyping(findChild<QWidget*>("Text12"), TyperModel::positiveOrEmpty);
     checkWhileTyping(findChild<QWidget*>("Text13"), TyperModel::positiveOrEmpty);
     checkWhileTyping(findChild<QWidget*>("Text18"), TyperModel::positiveOrEmpty);
