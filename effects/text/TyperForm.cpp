@@ -61,6 +61,7 @@ TyperForm::TyperForm(App& app)
     preview->setFocusPolicy(Qt::NoFocus);
     preview->setToolTip(QStringLiteral("The beginning of the text file"));
     one.wide(preview);
+    one.stretch();
     page1->layout()->setContentsMargins(0, 0, 0, 0);
 
     // Step 2: the font and the text's colour.
