@@ -45,6 +45,9 @@ struct HandOver {
     QMap<int, QString> files;
     // The box text where the effect words it itself; "" for the shared one.
     QString message;
+    // RequiredPaths slots emptied at Done: a file the effect no longer names
+    // leaves no source path behind.
+    QList<int> emptiedPaths;
 
     // The hand-over of a description with the code it emitted.
     static HandOver of(const EffectDescription& description, const QString& code)
@@ -54,7 +57,8 @@ struct HandOver {
                         .classes = description.classes,
                         .fileLines = description.fileLines,
                         .files = {},
-                        .message = {}};
+                        .message = {},
+                        .emptiedPaths = {}};
     }
 };
 

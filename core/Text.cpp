@@ -77,21 +77,13 @@ QString wholeNumberText(double value)
     return QString::number(qint64(cut));
 }
 
-QString colorTriple(quint32 color)
-{
-    const quint32 red = color % 256;
-    const quint32 green = (color / 256) % 256;
-    const quint32 blue = (color / 65536) % 256;
-    return QStringLiteral("%1,%2,%3").arg(red).arg(green).arg(blue);
-}
-
 QString trimBlanks(const QString& text)
 {
     qsizetype start = 0;
     qsizetype end = text.size();
-    while (start < end && text[start] == QLatin1Char(' '))
+    while (start < end && text[start] == ' ')
         ++start;
-    while (end > start && text[end - 1] == QLatin1Char(' '))
+    while (end > start && text[end - 1] == ' ')
         --end;
     return text.mid(start, end - start);
 }
@@ -99,6 +91,14 @@ QString trimBlanks(const QString& text)
 QString colorListValue(const QString& field)
 {
     return trimBlanks(field.right(11));
+}
+
+QString colorTriple(quint32 color)
+{
+    const quint32 red = color % 256;
+    const quint32 green = (color / 256) % 256;
+    const quint32 blue = (color / 65536) % 256;
+    return QStringLiteral("%1,%2,%3").arg(red).arg(green).arg(blue);
 }
 
 }  // namespace ql

@@ -26,16 +26,15 @@ double numericValue(const QString& text);
 // A number as trimmed decimal text, cut to a whole number.
 QString wholeNumberText(double value);
 
-// A colour value (red + green * 256 + blue * 65536) as "r,g,b".
-QString colorTriple(quint32 color);
-
-// A text without its leading and trailing blanks (only blanks: tabs and
-// line breaks stay).
+// A text without the blanks (spaces) at its ends; tabs and line breaks stay.
 QString trimBlanks(const QString& text);
 
-// The colour of a field that offers the colour list: its last 11
-// characters, trimmed of blanks, so that "Blue  -                0,0,255"
-// reads "0,0,255" and a typed "10,20,30" stays as it is.
+// The value of a field of a colour list: its last 11 characters, trimmed
+// of blanks. A list row ("Red  -   255,0,0"), a picked "r,g,b" and a value
+// read back alike give the numbers.
 QString colorListValue(const QString& field);
+
+// A colour value (red + green * 256 + blue * 65536) as "r,g,b".
+QString colorTriple(quint32 color);
 
 }  // namespace ql

@@ -8,7 +8,12 @@
 #include "effects/page/PopupAlertForm.h"
 #include "effects/page/PulldownForm.h"
 #include "effects/page/SoundForm.h"
+#include "effects/text/FadeMsgForm.h"
+#include "effects/text/NavTickerForm.h"
+#include "effects/text/SmoothScrollForm.h"
+#include "effects/text/StatusBarForm.h"
 #include "effects/text/SwirlyForm.h"
+#include "effects/text/TyperForm.h"
 #include "publish/MakeDirForm.h"
 #include "publish/PreviewForm.h"
 #include "reedit/EditAppletForm.h"
@@ -34,6 +39,11 @@ void registerForms(FormRegistry& forms)
     forms.add(FormName::PulldownURL, [](App& app) { return new PulldownURLForm(app); });
     forms.add(FormName::Password, [](App& app) { return new PasswordForm(app); });
     forms.add(FormName::Sound, [](App& app) { return new SoundForm(app); });
+    forms.add(FormName::StatusBar, [](App& app) { return new StatusBarForm(app); });
+    forms.add(FormName::SmoothScroll, [](App& app) { return new SmoothScrollForm(app); });
+    forms.add(FormName::Typer, [](App& app) { return new TyperForm(app); });
+    forms.add(FormName::NavTicker, [](App& app) { return new NavTickerForm(app); });
+    forms.add(FormName::FadeMsg, [](App& app) { return new FadeMsgForm(app); });
 }
 
 }  // namespace ql

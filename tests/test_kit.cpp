@@ -26,10 +26,9 @@ namespace {
 // The forms that the catalogue, the menus, the Preview wizard and re-edit
 // name but that are not built yet. It shrinks to nothing as the effects come.
 const QStringList NotBuiltYet = {
-    FormName::Anim,         FormName::AnimWizard,    FormName::BBWizard,  FormName::ImageEffects,
-    FormName::StatusBar,    FormName::Typer,         FormName::SmoothScroll, FormName::FadeMsg,
-    FormName::NavTicker,    FormName::ImageEffects2, FormName::AnimButton, FormName::ImgRollover,
-    FormName::ImageFade,    FormName::About,
+    FormName::Anim,          FormName::AnimWizard, FormName::BBWizard,    FormName::ImageEffects,
+    FormName::ImageEffects2, FormName::AnimButton, FormName::ImgRollover, FormName::ImageFade,
+    FormName::About,
 };
 
 // Every form name that another part of the program names.
