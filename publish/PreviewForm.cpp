@@ -197,7 +197,7 @@ QWidget* PreviewForm::buildStep2()
                                         "the instructions below:"));
     Label8 = text(page, "Label8", QString());
     auto* copy = named(new QToolButton(page), "Command3");
-    copy->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    copy->setIcon(copyIcon());
     copy->setIconSize(QSize(24, 24));
     copy->setToolTip(QStringLiteral("Click here to copy code to Clipboard"));
     connect(copy, &QToolButton::clicked, this, [this] { copyToClipboard(); });
@@ -213,7 +213,7 @@ QWidget* PreviewForm::buildStep2()
                                  ">>\" button below."));
     Label5 = text(page, "Label5", QStringLiteral("Click here if you use Microsoft FrontPage -->"));
     auto* frontPageButton = named(new QToolButton(page), "Command4");
-    frontPageButton->setIcon(helpIcon());
+    frontPageButton->setIcon(webPageIcon());
     frontPageButton->setIconSize(QSize(20, 20));
     connect(frontPageButton, &QToolButton::clicked, this, [this] { frontPage(); });
 
