@@ -326,6 +326,26 @@ private slots:
         QVERIFY(!shown.contains("Look for the files in this folder:"));
         QVERIFY(shown.contains(deep));
     }
+    void aSharedMessageIndexMovedElsewhereBreaksNoForm()
+    {
+        for (const char* form : {"NavTicker", "FadeMsg"}) {
+            for (int moved : {-7, 11, 400}) {
+                d.start();
+                d.ok({{"op", "open"}, {"form", form}});
+                d.app().session().MessageIndex = qint16(moved);
+                const QJsonArray controls = d.ok({{"op", "controls"}, {"form", form}}).toArray();
+                for (const QJsonValue& c : controls) {
+                    const QJsonObject control = c.toObject();
+                    if (control.value("kind").toString() != "button")
+                        continue;
+                    d.app().session().MessageIndex = qint16(moved);
+                    d.send({{"op", "click"}, {"form", form}, {"control", control.value("name")}});
+                    if (!d.loaded(form))
+                        d.ok({{"op", "open"}, {"form", form}});
+                }
+            }
+        }
+    }
     void wizardTextsKeepTheirRoom()
     {
         StableLabel label;

@@ -167,7 +167,7 @@ FadeMsgModel::Message FadeMsgForm::storedPage() const
 void FadeMsgForm::showMessage()
 {
     findChild<QLabel*>("Label6")->setText("Message " + QStringLiteral(" %1").arg(index() + 1));
-    const FadeMsgModel::Message& m = messages_[index()];
+    const FadeMsgModel::Message& m = messages_[slot()];
     setFieldText(findChild<QWidget*>("Combo4"), m.backgroundColor);
     setFieldText(findChild<QWidget*>("Combo6"), m.textColor);
     setFieldText(findChild<QWidget*>("Text5"), m.description);
@@ -201,7 +201,7 @@ void FadeMsgForm::nextMessage()
         refuse({"You must enter text for your message.", 0, "Text5"});
         return;
     }
-    messages_[index()] = storedPage();
+    messages_[slot()] = storedPage();
     ++index();
     if (index() >= FadeMsgModel::Slots - 1)
         findChild<QPushButton*>("Command6")->setEnabled(false);
@@ -217,8 +217,8 @@ void FadeMsgForm::previousMessage()
     // are stored in any case.
     FadeMsgModel::Message kept = storedPage();
     if (kept.description.isEmpty())
-        kept.description = messages_[index()].description;
-    messages_[index()] = kept;
+        kept.description = messages_[slot()].description;
+    messages_[slot()] = kept;
     --index();
     if (index() < 0) {
         index() = 0;
@@ -235,7 +235,7 @@ void FadeMsgForm::done()
             refuse({"You must enter text for your message.", 48, "Text5"});
             return;
         }
-        messages_[index()] = storedPage();
+        messages_[slot()] = storedPage();
         font_ = FadeMsgModel::resolvedFont(fieldText(findChild<QWidget*>("Combo1")));
     }
     HandOverToPreview(HandOver::of(description(), FadeMsgModel::emitCode(fields())));

@@ -148,13 +148,13 @@ void NavTickerForm::showPage(int page)
 void NavTickerForm::storeMessage()
 {
     auto text = [this](const char* name) { return fieldText(findChild<QWidget*>(name)); };
-    messages_[index()] = NavTickerModel::stored(text("Text1"), text("Text2"), text("Combo1"));
+    messages_[slot()] = NavTickerModel::stored(text("Text1"), text("Text2"), text("Combo1"));
 }
 
 void NavTickerForm::showMessage()
 {
     findChild<QLabel*>("Label6")->setText("Message " + QStringLiteral(" %1").arg(index() + 1));
-    const NavTickerModel::Message& m = messages_[index()];
+    const NavTickerModel::Message& m = messages_[slot()];
     setFieldText(findChild<QWidget*>("Text1"), m.text);
     setFieldText(findChild<QWidget*>("Text2"), m.link);
     setFieldText(findChild<QWidget*>("Combo1"), m.frame);
@@ -198,8 +198,8 @@ void NavTickerForm::previousMessage()
     auto text = [this](const char* name) { return fieldText(findChild<QWidget*>(name)); };
     NavTickerModel::Message kept = NavTickerModel::stored(text("Text1"), text("Text2"), text("Combo1"));
     if (kept.text.isEmpty())
-        kept.text = messages_[index()].text;
-    messages_[index()] = kept;
+        kept.text = messages_[slot()].text;
+    messages_[slot()] = kept;
     --index();
     if (index() < 0) {
         index() = 0;

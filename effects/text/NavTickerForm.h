@@ -30,6 +30,9 @@ private:
     void showMessage();
     void showPage(int page);
     qint16& index() const;
+    // The slot of the shared message index, which another form may have
+    // moved out of this form's table.
+    int slot() const { return qBound(0, int(index()), NavTickerModel::Slots - 1); }
 
     PageStack* pages_ = nullptr;
     int count_ = 1;
