@@ -1,8 +1,9 @@
 #include "core/ProgramFolder.h"
 
+#include "platform/LocalFileSystem.h"
+
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 static void initShippedResources()
@@ -25,18 +26,13 @@ void prepareProgramFolder(const QString& folder)
     initShippedResources();
     QDir().mkpath(folder);
     const QDir shipped(QStringLiteral(":/shipped"));
+    // Each file comes whole or not at all; one that fails is tried again at
+    // the next start.
+    LocalFileSystem disk;
     for (const QString& name : shipped.entryList(QDir::Files)) {
         const QString target = QDir(folder).filePath(name);
-        if (QFile::exists(target))
-            continue;
-        QFile source(shipped.filePath(name));
-        if (!source.open(QIODevice::ReadOnly))
-            continue;
-        QSaveFile out(target);
-        if (out.open(QIODevice::WriteOnly)) {
-            out.write(source.readAll());
-            out.commit();
-        }
+        if (!QFile::exists(target))
+            disk.copyFile(shipped.filePath(name), target);
     }
 }
 

@@ -17,6 +17,7 @@
 #include "core/Icons.h"
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextDocument>
 
 namespace ql {
 
@@ -106,12 +107,43 @@ void ColorSwatch::paintColor(quint32 color)
 
 namespace {
 
-// The CRLF text of each code box, kept until its document changes: re-edit
-// reads the pasted code once per key, and a pasted text may be large.
-QHash<const CodeBox*, QString>& crlfTexts()
+// The text with every LF break written as CRLF, in one pass.
+QString withCrlfBreaks(const QString& inner)
 {
-    static QHash<const CodeBox*, QString> texts;
-    return texts;
+    const qsizetype breaks = inner.count(QLatin1Char('\n'));
+    if (breaks == 0)
+        return inner;
+    QString out(inner.size() + breaks, Qt::Uninitialized);
+    QChar* o = out.data();
+    for (const QChar c : inner) {
+        if (c == QLatin1Char('\n'))
+            *o++ = QLatin1Char('\r');
+        *o++ = c;
+    }
+    return out;
+}
+
+// The text with its CRLF and lone CR breaks written as LF, in one pass.
+QString withLfBreaks(const QString& text)
+{
+    if (!text.contains(QLatin1Char('\r')))
+        return text;
+    QString out(text.size(), Qt::Uninitialized);
+    QChar* o = out.data();
+    const QChar* p = text.constData();
+    const QChar* const end = p + text.size();
+    while (p < end) {
+        if (*p == QLatin1Char('\r')) {
+            *o++ = QLatin1Char('\n');
+            ++p;
+            if (p < end && *p == QLatin1Char('\n'))
+                ++p;
+        } else {
+            *o++ = *p++;
+        }
+    }
+    out.truncate(o - out.constData());
+    return out;
 }
 
 }  // namespace
@@ -121,29 +153,22 @@ CodeBox::CodeBox(QWidget* parent)
 {
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setTabChangesFocus(true);
-    const CodeBox* key = this;
-    connect(document(), &QTextDocument::contentsChanged, this, [key] { crlfTexts().remove(key); });
-    connect(this, &QObject::destroyed, [key] { crlfTexts().remove(key); });
+    // Any change of the document, typed, pasted or set, drops the kept text.
+    connect(document(), &QTextDocument::contentsChanged, this, [this] { crlfTextValid_ = false; });
 }
 
 QString CodeBox::text() const
 {
-    QHash<const CodeBox*, QString>& texts = crlfTexts();
-    const auto kept = texts.constFind(this);
-    if (kept != texts.constEnd())
-        return *kept;
-    QString inner = toPlainText();
-    inner.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
-    texts.insert(this, inner);
-    return inner;
+    if (!crlfTextValid_) {
+        crlfText_ = withCrlfBreaks(toPlainText());
+        crlfTextValid_ = true;
+    }
+    return crlfText_;
 }
 
 void CodeBox::setText(const QString& text)
 {
-    QString inner = text;
-    inner.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    inner.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    setPlainText(inner);
+    setPlainText(withLfBreaks(text));
 }
 
 int CodeBox::toCrlf(int innerPosition) const
@@ -191,10 +216,7 @@ void CodeBox::setSelection(int start, int length)
 
 void CodeBox::replaceSelection(const QString& replacement)
 {
-    QString inner = replacement;
-    inner.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    inner.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    textCursor().insertText(inner);
+    textCursor().insertText(withLfBreaks(replacement));
 }
 
 // ---- PageStack

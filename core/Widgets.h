@@ -67,6 +67,9 @@ class CodeBox : public QPlainTextEdit {
     Q_OBJECT
 public:
     explicit CodeBox(QWidget* parent = nullptr);
+    // The text with CRLF breaks. It is built once after each change of the
+    // box and kept, so that readers asking many times in a row (re-edit asks
+    // once per key) share one copy.
     QString text() const;
     void setText(const QString& text);
     // Selection over the CRLF text: start counted from 0.
@@ -79,6 +82,9 @@ public:
 private:
     int toInner(int crlfPosition) const;
     int toCrlf(int innerPosition) const;
+
+    mutable QString crlfText_;
+    mutable bool crlfTextValid_ = false;
 };
 
 // Pages at one place, one in front at a time. A page keeps its own visible

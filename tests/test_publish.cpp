@@ -32,7 +32,7 @@ const QString BackupQuestion =
 const QString SelectFile = "Please select a file to copy.";
 const QString EnterFolderName = "Please enter a new folder name for Quillet to create.";
 const QString Step3Title = "Step 3: Publish required files to local hard drive";
-const QByteArray ClassBytes = QByteArray("\xCA\xFE\xBA\xBE swirl class", 18);
+const QByteArray ClassBytes = QByteArrayLiteral("\xCA\xFE\xBA\xBE swirl class");
 
 QString overwriteQuestion(const QString& name)
 {
