@@ -2,6 +2,7 @@
 
 #include "core/App.h"
 #include "core/Emission.h"
+#include "core/ExtractParam.h"
 #include "core/Text.h"
 #include "core/Widgets.h"
 
@@ -25,7 +26,13 @@ void EffectForm::load()
     session.eraseArrays();
     fillLists();
     if (session.ReEditMode == 1) {
+        // The pasted code is read once for all the keys: a long paste is
+        // not copied out of its box again for every field.
+        pasted_ = app().pastedCode();
+        reading_ = true;
         EditApplet();
+        reading_ = false;
+        pasted_.clear();
         session.ReEditMode = 0;
     }
 }
@@ -38,7 +45,11 @@ void EffectForm::EditApplet()
 
 QString EffectForm::extract(const QString& key)
 {
-    return app().ExtractParam(key);
+    if (!reading_)
+        return app().ExtractParam(key);
+    EffectSession& session = app().session();
+    ql::ExtractParam(session, pasted_, key);
+    return session.ExtractedValue;
 }
 
 void EffectForm::refuse(const Refusal& refusal)
@@ -54,12 +65,16 @@ void EffectForm::HandOverToPreview(const HandOver& h)
 {
     EffectSession& session = app().session();
     session.GeneratedCode = h.code;
-    app().msgBox(h.fileLines.isEmpty() ? NoFilesMessage() : RequiredFilesMessage(h.fileLines),
-                 MsgStyle::Exclamation);
+    const QString message = !h.message.isEmpty()     ? h.message
+                            : h.fileLines.isEmpty() ? NoFilesMessage()
+                                                    : RequiredFilesMessage(h.fileLines);
+    app().msgBox(message, MsgStyle::Exclamation);
     for (int i = 0; i < h.classes.size(); ++i)
         session.RequiredClasses.set(i, h.classes[i]);
     for (auto it = h.files.begin(); it != h.files.end(); ++it)
         session.RequiredFiles.set(it.key(), it.value());
+    for (int slot : h.emptiedPaths)
+        session.RequiredPaths.set(slot, QString());
     session.EffectId = h.effectId;
     hide();
     app().forms().show(QStringLiteral("Preview"), true);

@@ -73,6 +73,9 @@ protected:
 
 private:
     const EffectDescription& description_;
+    // The pasted code while EditApplet reads it.
+    QString pasted_;
+    bool reading_ = false;
 };
 
 // An effect form whose Done is its model's: the form gathers the fields, the

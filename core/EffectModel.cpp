@@ -15,4 +15,15 @@ const QStringList& FontSizeList()
     return list;
 }
 
+const QStringList& ColorList()
+{
+    static const QStringList list = {
+        "Black  -               0,0,0",     "Blue  -                0,0,255",
+        "Red  -                 255,0,0",   "Green  -               0,255,0",
+        "Cyan  -                0,255,255", "Magenta  -             255,0,255",
+        "Yellow  -              255,255,0", "White  -               255,255,255",
+    };
+    return list;
+}
+
 }  // namespace ql

@@ -43,6 +43,11 @@ struct HandOver {
     QStringList fileLines;
     // RequiredFiles slots the effect names at Done (slot, bare name).
     QMap<int, QString> files;
+    // The box text where the effect words it itself; "" for the shared one.
+    QString message;
+    // RequiredPaths slots emptied at Done: a file the effect no longer names
+    // leaves no source path behind.
+    QList<int> emptiedPaths;
 
     // The hand-over of a description with the code it emitted.
     static HandOver of(const EffectDescription& description, const QString& code)
@@ -51,12 +56,17 @@ struct HandOver {
                         .effectId = description.effectId,
                         .classes = description.classes,
                         .fileLines = description.fileLines,
-                        .files = {}};
+                        .files = {},
+                        .message = {},
+                        .emptiedPaths = {}};
     }
 };
 
 // The lists that the applet text forms offer.
 const QStringList& FontList();
 const QStringList& FontSizeList();
+// The colour list of the applet forms: a name, a dash and the three numbers
+// that colorListValue() reads from the row.
+const QStringList& ColorList();
 
 }  // namespace ql

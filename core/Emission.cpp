@@ -20,6 +20,19 @@ QString AppletTag(const QString& classFile, const QString& height, const QString
            width + QUOTE + ">" + CRLF;
 }
 
+QString ScriptCreditLines()
+{
+    return "<!-- Script written by Ostrel Software - " + Addresses::VendorUrl + " -->" + CRLF +
+           "<!-- Created by Quillet software - " + Addresses::ProductUrl + " -->" + CRLF + CRLF;
+}
+
+QString NoFilesOnePieceMessage()
+{
+    return QStringLiteral("This effect does not require any extra files in order to work correctly.  Simply copy "
+                          "and paste the code from the Preview Wizard to your HTML document to insert this special "
+                          "effect.");
+}
+
 QString RequiredFilesMessage(const QStringList& kindLines)
 {
     QString text = "You will need the following files in order for this special effect to work correctly:" + CRLF + CRLF;

@@ -18,6 +18,14 @@ QString WizardValue();
 QString AppletTag(const QString& classFile, const QString& height, const QString& width);
 inline const QString AppletEnd = QStringLiteral("</APPLET>\r\n");
 
+// The two comment lines that credit a script's author and the program, the
+// first followed by one line break, the second by two.
+QString ScriptCreditLines();
+
+// The box text of the script effects that need no file and are pasted in
+// one piece.
+QString NoFilesOnePieceMessage();
+
 // The box text that lists the files an effect needs, one "- " line per kind
 // of file ("- the ColorSwirl.class file", "- images", ...).
 QString RequiredFilesMessage(const QStringList& kindLines);

@@ -1,5 +1,6 @@
 #include "core/FormBuilder.h"
 
+#include "core/App.h"
 #include "core/EffectForm.h"
 #include "core/Widgets.h"
 
@@ -12,6 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QStyle>
 
 namespace ql {
@@ -136,7 +138,7 @@ QComboBox* FormBuilder::combo(const QString& name, const QString& labelName, con
 
 FormBuilder::ColorField FormBuilder::color(const QString& fieldName, const QString& swatchName,
                                            const QString& labelName, const QString& captionText, bool comboField,
-                                           int chars)
+                                           int chars, const std::function<QString(quint32)>& format)
 {
     QLabel* label = captionText.isEmpty() ? nullptr : makeCaption(labelName, captionText);
     QWidget* field = nullptr;
@@ -162,8 +164,8 @@ FormBuilder::ColorField FormBuilder::color(const QString& fieldName, const QStri
     placeLayout(label, row);
     if (form_) {
         EffectForm* form = form_;
-        QObject::connect(swatch, &ColorSwatch::clicked, form, [form, swatch, field] {
-            form->pickColor(swatch, [field](const QString& value) { setFieldText(field, value); });
+        QObject::connect(swatch, &ColorSwatch::clicked, form, [form, swatch, field, format] {
+            form->pickColor(swatch, [field](const QString& value) { setFieldText(field, value); }, format);
         });
     }
     return {field, swatch};
@@ -172,7 +174,8 @@ FormBuilder::ColorField FormBuilder::color(const QString& fieldName, const QStri
 FormBuilder::BrowseField FormBuilder::browse(const QString& fieldName, const QString& buttonName,
                                              const QString& labelName, const QString& captionText,
                                              const QString& filter, int slot, const QString& title,
-                                             const QString& buttonCaption)
+                                             const QString& buttonCaption,
+                                             const std::function<void(const QString&)>& picked)
 {
     QLabel* label = captionText.isEmpty() ? nullptr : makeCaption(labelName, captionText);
     auto* field = named(new QLineEdit(area_), fieldName);
@@ -188,8 +191,11 @@ FormBuilder::BrowseField FormBuilder::browse(const QString& fieldName, const QSt
     placeLayout(label, row);
     if (form_) {
         EffectForm* form = form_;
-        QObject::connect(browseButton, &QPushButton::clicked, form, [form, field, filter, slot, title] {
-            form->browseFile(filter, title, slot, [field](const QString& name) { field->setText(name); });
+        QObject::connect(browseButton, &QPushButton::clicked, form, [form, field, filter, slot, title, picked] {
+            const bool chosen =
+                form->browseFile(filter, title, slot, [field](const QString& name) { field->setText(name); });
+            if (chosen && picked)
+                picked(form->app().session().RequiredPaths.at(slot));
         });
     }
     return {field, browseButton};
@@ -205,6 +211,30 @@ QWidget* FormBuilder::wideField(const QString& labelName, const QString& caption
     QLabel* label = caption(labelName, captionText);
     label->setBuddy(control);
     return wide(control);
+}
+
+QSlider* FormBuilder::slider(const QString& name, const QString& labelName, const QString& captionText,
+                             const SliderSteps& steps, const QString& lowName, const QString& lowText,
+                             const QString& highName, const QString& highText)
+{
+    auto* holder = new QWidget(area_);
+    auto* s = named(new QSlider(Qt::Horizontal, holder), name);
+    s->setRange(steps.minimum, steps.maximum);
+    s->setSingleStep(steps.small);
+    s->setPageStep(steps.large);
+    s->setTickInterval(steps.tick);
+    s->setTickPosition(QSlider::TicksBelow);
+    s->setValue(steps.value);
+    auto* low = named(new QLabel(lowText, holder), lowName);
+    auto* high = named(new QLabel(highText, holder), highName);
+    auto* row = new QHBoxLayout(holder);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(low);
+    row->addWidget(s, 1);
+    row->addWidget(high);
+    holder->setFocusProxy(s);
+    place(captionText.isEmpty() ? nullptr : makeCaption(labelName, captionText), holder);
+    return s;
 }
 
 QCheckBox* FormBuilder::check(const QString& name, const QString& captionText)

@@ -13,6 +13,7 @@ class QLayout;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QSlider;
 class QToolButton;
 class QWidget;
 
@@ -56,10 +57,13 @@ public:
         QWidget* field;
         ColorSwatch* swatch;
     };
+    // `format` writes a picked colour otherwise than "r,g,b" (one number, say).
     ColorField color(const QString& fieldName, const QString& swatchName, const QString& labelName,
-                     const QString& caption, bool comboField = false, int chars = 0);
+                     const QString& caption, bool comboField = false, int chars = 0,
+                     const std::function<QString(quint32)>& format = nullptr);
     // A field for a file with its browse button beside it: the field takes
-    // the bare name and the file arrays the file, in `slot`.
+    // the bare name and the file arrays the file, in `slot`; `picked`, where
+    // given, then takes the full path of the file.
     struct BrowseField {
         QLineEdit* field;
         QPushButton* button;
@@ -67,11 +71,26 @@ public:
     BrowseField browse(const QString& fieldName, const QString& buttonName, const QString& labelName,
                        const QString& caption, const QString& filter, int slot,
                        const QString& title = QStringLiteral("Browse..."),
-                       const QString& buttonCaption = QStringLiteral("Browse..."));
+                       const QString& buttonCaption = QStringLiteral("Browse..."),
+                       const std::function<void(const QString&)>& picked = nullptr);
 
     // A caption across the row with its field across the row below it.
     QLineEdit* wideText(const QString& name, const QString& labelName, const QString& caption);
     QWidget* wideField(const QString& labelName, const QString& caption, QWidget* control);
+
+    // A caption and a horizontal slider with ticks, with the words of its
+    // low and high ends beside it ("Slow" ... "Fast").
+    struct SliderSteps {
+        int minimum = 1;
+        int maximum = 10;
+        int small = 1;
+        int large = 4;
+        int tick = 1;
+        int value = 1;
+    };
+    QSlider* slider(const QString& name, const QString& labelName, const QString& caption,
+                    const SliderSteps& steps, const QString& lowName, const QString& lowText,
+                    const QString& highName, const QString& highText);
 
     QCheckBox* check(const QString& name, const QString& caption);
     QRadioButton* option(const QString& name, const QString& caption);

@@ -21,7 +21,7 @@ FormRegistry::~FormRegistry()
 void FormRegistry::add(const QString& name, Factory factory)
 {
     if (!factories_.contains(name))
-        registered_ << name;
+        names_ << name;
     factories_.insert(name, std::move(factory));
 }
 

@@ -24,8 +24,8 @@ public:
     void add(const QString& name, Factory factory);
     bool exists(const QString& name) const { return factories_.contains(name); }
     // The names of every form the program can load, in the order they were
-    // registered.
-    const QStringList& registeredNames() const { return registered_; }
+    // added.
+    const QStringList& names() const { return names_; }
 
     // The loaded form of that name, or nullptr.
     FormBase* find(const QString& name) const;
@@ -55,10 +55,10 @@ public:
 private:
     App& app_;
     QHash<QString, Factory> factories_;
+    QStringList names_;
     QHash<QString, QPointer<QWidget>> loaded_;
     QHash<QString, FormBase*> bases_;
     QStringList order_;
-    QStringList registered_;
 };
 
 }  // namespace ql

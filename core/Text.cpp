@@ -77,6 +77,22 @@ QString wholeNumberText(double value)
     return QString::number(qint64(cut));
 }
 
+QString trimBlanks(const QString& text)
+{
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    while (start < end && text[start] == ' ')
+        ++start;
+    while (end > start && text[end - 1] == ' ')
+        --end;
+    return text.mid(start, end - start);
+}
+
+QString colorListValue(const QString& field)
+{
+    return trimBlanks(field.right(11));
+}
+
 QString colorTriple(quint32 color)
 {
     const quint32 red = color % 256;

@@ -26,6 +26,14 @@ double numericValue(const QString& text);
 // A number as trimmed decimal text, cut to a whole number.
 QString wholeNumberText(double value);
 
+// A text without the blanks (spaces) at its ends; tabs and line breaks stay.
+QString trimBlanks(const QString& text);
+
+// The value of a field of a colour list: its last 11 characters, trimmed
+// of blanks. A list row ("Red  -   255,0,0"), a picked "r,g,b" and a value
+// read back alike give the numbers.
+QString colorListValue(const QString& field);
+
 // A colour value (red + green * 256 + blue * 65536) as "r,g,b".
 QString colorTriple(quint32 color);
 

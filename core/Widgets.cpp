@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <QTextDocument>
+#include <QHash>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>

@@ -179,7 +179,17 @@ void QtPlatform::showHelp(const QString& helpFile, const QString& form, std::opt
         help_ = new HelpViewer();
     if (help_->parentWidget() != owner)
         help_->setParent(owner, Qt::Window);
-    help_->showTopic(helpFile, form, topic);
+    // It opens over the form that asked for it.
+    const QWidget* over = nullptr;
+    for (const QWidget* w : QApplication::topLevelWidgets()) {
+        if (w->isVisible() && w->objectName() == form) {
+            over = w;
+            break;
+        }
+    }
+    if (!over)
+        over = owner ? owner : QApplication::activeWindow();
+    help_->showTopic(helpFile, form, topic, over);
 }
 
 void QtPlatform::beep()

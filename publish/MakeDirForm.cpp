@@ -58,6 +58,8 @@ void MakeDirForm::load()
             Drive1->showDrive(preview->targetDrive());
         Dir1->setPath(preview->targetFolder());
     }
+    // The dialog asks for a name: the typing goes there first.
+    Text1->setFocus();
 }
 
 bool MakeDirForm::eventFilter(QObject* watched, QEvent* event)

@@ -128,24 +128,32 @@ void PreviewForm::buildMenus()
         QAction* a = m->addAction(caption);
         a->setObjectName(name);
         connect(a, &QAction::triggered, this, handler);
+        return a;
+    };
+    // The code box answers these keys itself; the menu shows them, and takes
+    // them only while it is open, so that no key of the box or of the file
+    // lists is taken away from them.
+    auto usualKey = [](QAction* a, QKeySequence::StandardKey key) {
+        a->setShortcut(key);
+        a->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     };
     QMenu* file = menu("mnuFile", "&File");
     entry(file, "mnuHTMLEditor", "&Open HTML Editor...", [this] { OpenHtmlEditor(app(), this); });
     entry(file, "mnuReturn", "&Return to Main Menu", [this] { unload(); });
     QMenu* edit = menu("mnuEdit", "&Edit");
-    entry(edit, "mnuCopy", "&Copy", [this] {
+    usualKey(entry(edit, "mnuCopy", "&Copy", [this] {
         app().platform().clearClipboard();
         app().platform().setClipboardText(Text1->selectedText());
         focusIfShown(Text1);
-    });
-    entry(edit, "mnuPaste", "&Paste", [this] {
+    }), QKeySequence::Copy);
+    usualKey(entry(edit, "mnuPaste", "&Paste", [this] {
         Text1->replaceSelection(app().platform().clipboardText());
         focusIfShown(Text1);
-    });
-    entry(edit, "mnuSelectAll", "Select &All", [this] {
+    }), QKeySequence::Paste);
+    usualKey(entry(edit, "mnuSelectAll", "Select &All", [this] {
         Text1->selectAll();
         focusIfShown(Text1);
-    });
+    }), QKeySequence::SelectAll);
     entry(edit, "mnuEditApplet", "&Edit applet...", [this] { ReturnToEditApplet(false, 16); });
     QMenu* steps = menu("mnuSteps", "&Steps");
     // The menu reaches a step from anywhere; only Step 1 leaves Previous off.
@@ -197,7 +205,7 @@ QWidget* PreviewForm::buildStep2()
                                         "the instructions below:"));
     Label8 = text(page, "Label8", QString());
     auto* copy = named(new QToolButton(page), "Command3");
-    copy->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    copy->setIcon(copyIcon());
     copy->setIconSize(QSize(24, 24));
     copy->setToolTip(QStringLiteral("Click here to copy code to Clipboard"));
     connect(copy, &QToolButton::clicked, this, [this] { copyToClipboard(); });
@@ -213,7 +221,7 @@ QWidget* PreviewForm::buildStep2()
                                  ">>\" button below."));
     Label5 = text(page, "Label5", QStringLiteral("Click here if you use Microsoft FrontPage -->"));
     auto* frontPageButton = named(new QToolButton(page), "Command4");
-    frontPageButton->setIcon(helpIcon());
+    frontPageButton->setIcon(webPageIcon());
     frontPageButton->setIconSize(QSize(20, 20));
     connect(frontPageButton, &QToolButton::clicked, this, [this] { frontPage(); });
 

@@ -7,13 +7,17 @@
 #include "shell/EffectPictures.h"
 #include "shell/RenderedPictures.h"
 
+#include <QButtonGroup>
 #include <QCloseEvent>
 #include <QEnterEvent>
+#include <QFocusFrame>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -53,6 +57,22 @@ QPixmap pictureOf(const QString& form, const QString& title, qreal ratio)
     }
     return effectPicture(form, title, PictureSize, ratio);
 }
+
+// The ring around the catalogue button that has the keyboard focus.
+class FocusRing : public QFocusFrame {
+public:
+    using QFocusFrame::QFocusFrame;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter p(this);
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
+    }
+};
 
 }  // namespace
 
@@ -118,6 +138,9 @@ MainWindow::MainWindow(App& app)
     layout->addLayout(catalogueColumn, 1);
     layout->addWidget(frame1);
 
+    focusFrame_ = new FocusRing(this);
+    // Hidden until a button has the focus.
+    focusFrame_->hide();
     installEventFilter(this);
 }
 
@@ -135,7 +158,11 @@ void MainWindow::buildMenus()
     };
 
     QMenu* file = addMenu(this, "mnuFile", "&File");
-    connect(addEntry(file, "mnuFileExit", "E&xit"), &QAction::triggered, this, [this] { app().end(); });
+    QAction* exit = addEntry(file, "mnuFileExit", "E&xit");
+    // The desktop's key to quit, Ctrl+Q where it names none.
+    const QKeySequence quit(QKeySequence::Quit);
+    exit->setShortcut(quit.isEmpty() ? QKeySequence(Qt::CTRL | Qt::Key_Q) : quit);
+    connect(exit, &QAction::triggered, this, [this] { app().end(); });
 
     QMenu* edit = addMenu(this, "mnuEdit", "&Edit");
     connect(addEntry(edit, "mnuEditApplet", "Edit Applet..."), &QAction::triggered, this,
@@ -158,7 +185,9 @@ void MainWindow::buildMenus()
             [this] { app().forms().show(QStringLiteral("Options"), true); });
 
     QMenu* help = addMenu(this, "mnuHelp", "&Help");
-    connect(addEntry(help, "mnuHelpContents", "&Contents..."), &QAction::triggered, this, [this] { sendHelp(); });
+    QAction* contents = addEntry(help, "mnuHelpContents", "&Contents...");
+    contents->setShortcut(QKeySequence(Qt::Key_F1));
+    connect(contents, &QAction::triggered, this, [this] { sendHelp(); });
     connect(addEntry(help, "mnuHelpAbout", "&About..."), &QAction::triggered, this,
             [this] { app().forms().show(QStringLiteral("About"), true); });
 
@@ -174,6 +203,10 @@ QWidget* MainWindow::buildPage(int page)
     auto* grid = new QGridLayout(container);
     grid->setContentsMargins(14, 14, 14, 14);
     grid->setSpacing(10);
+    // One group per page: the arrow keys move between its buttons as they
+    // stand on the page. Nothing in it is checked.
+    auto* group = new QButtonGroup(container);
+    group->setExclusive(false);
     int slot = 0;
     for (const CatalogueEntry& entry : catalogue()) {
         if (entry.page != page)
@@ -191,6 +224,8 @@ QWidget* MainWindow::buildPage(int page)
         button->installEventFilter(this);
         const QString form = entry.form;
         connect(button, &QToolButton::clicked, this, [this, form] { openEffect(form, true); });
+        group->addButton(button);
+        // Added in reading order, so that Tab walks the page row by row.
         grid->addWidget(button, slot / 3, slot % 3, Qt::AlignCenter);
         ++slot;
     }
@@ -242,6 +277,31 @@ void MainWindow::openEffect(const QString& form, bool unloadFirst)
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (watched->property(Title).isValid()) {
+        // The keyboard has the buttons as the mouse has them: the button with
+        // the focus is described and framed, and Enter opens its form as Space
+        // and a click do.
+        if (type == QEvent::FocusIn) {
+            describe(watched->property(Title).toString(), watched->property(Description).toString());
+            focusFrame_->setWidget(static_cast<QWidget*>(watched));
+        }
+        if (type == QEvent::FocusOut) {
+            focusFrame_->setWidget(nullptr);
+            // Focus gone elsewhere in this window clears the description, as
+            // the mouse gone off the buttons does; a window in front keeps it.
+            const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+            if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+                describe(QString(), QString());
+        }
+        if (type == QEvent::KeyPress) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            if ((key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) && !key->isAutoRepeat() &&
+                (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+                static_cast<QToolButton*>(watched)->click();
+                return true;
+            }
+        }
+    }
     if (type != QEvent::Enter && type != QEvent::MouseMove)
         return QMainWindow::eventFilter(watched, event);
     // The effect button under the mouse, if any: a move over a button can

@@ -4,6 +4,7 @@
 
 #include <QMainWindow>
 
+class QFocusFrame;
 class QLabel;
 class QTabBar;
 class QToolButton;
@@ -36,6 +37,7 @@ private:
     PageStack* pages_;
     QLabel* Label3;
     QLabel* Label2;
+    QFocusFrame* focusFrame_;
 };
 
 }  // namespace ql

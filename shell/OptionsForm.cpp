@@ -1,6 +1,7 @@
 #include "shell/OptionsForm.h"
 
 #include "core/App.h"
+#include "core/Icons.h"
 #include "core/SharedRoutines.h"
 #include "core/Widgets.h"
 #include "publish/PreviewPage.h"
@@ -10,7 +11,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -24,7 +24,7 @@ OptionsForm::OptionsForm(App& app)
     Text1 = named(new QLineEdit(this), "Text1");
     auto browseButton = [this](const QString& name) {
         auto* b = named(new QToolButton(this), name);
-        b->setIcon(style()->standardIcon(QStyle::SP_DirOpenIcon));
+        b->setIcon(programFileIcon());
         b->setToolTip(QStringLiteral("Browse..."));
         return b;
     };

@@ -85,7 +85,7 @@ private slots:
     void buttonsOfEffectsStillToComeOpenNothing()
     {
         for (const CatalogueEntry& entry : catalogue()) {
-            if (entry.form == "Swirly")
+            if (d.app().forms().exists(entry.form))
                 continue;
             d.click("QLMain", entry.button);
             QVERIFY(!d.loaded(entry.form));
@@ -171,7 +171,7 @@ private slots:
     {
         for (const EffectSubmenu& sub : effectMenu()) {
             for (const EffectMenuEntry& entry : sub.entries) {
-                if (entry.form == "Swirly")
+                if (d.app().forms().exists(entry.form))
                     continue;
                 d.click("QLMain", entry.control);
                 QVERIFY(!d.loaded(entry.form));
