@@ -12,13 +12,13 @@ namespace ql {
 struct AnimationFrame {
     QString image;       // bare file name of the picture
     QString pause;       // milliseconds as text; "-1" waits for a click, "-2" for the mouse
-    QString transition;  // a transition spec: "slidein(3)", "overwrite()", "" for none
+    QString transition;  // a TransitionSpec: "slidein(3)", "overwrite()", "" for none
     QString url;
     QString sound;       // bare file name of the sound played when the image loads
 };
 
 // The transitions and directions of the frame table, and how a transition
-// spec is made from the Image Properties dialog and read back into it.
+// TransitionSpec is made from the Image Properties dialog and read back into it.
 struct TransitionModel {
     // What the dialog shows for a transition.
     enum class DirectionList { Refill, Empty, LeaveAsItIs };
@@ -40,11 +40,11 @@ struct TransitionModel {
     // nothing there; a choice in the list tests "shutter".
     static std::optional<Row> rowOf(const QString& name, bool atOpening);
 
-    // The spec that OK composes from the direction box's text and the
+    // The TransitionSpec that OK composes from the direction box's text and the
     // transition box's text, first match wins.
     static QString compose(const QString& direction, const QString& transition);
 
-    // What the dialog shows at opening for a stored spec: the transition box
+    // What the dialog shows at opening for a stored TransitionSpec: the transition box
     // takes the cell less its last three characters when it ends in ")", and
     // the direction box the middle one of those three.
     struct Shown {
